@@ -1,0 +1,40 @@
+#pragma once
+// Printing, the prompts and the event handlers of the game window.
+#include <string>
+#include <vector>
+
+#include "screen/plattform.h"
+#include "state/spiel.h"
+
+constexpr Farbe SCHWARZ = 0, ROT = 255, GRUEN = 65280, GELB = 65535, BLAU = 16711680,
+                MAGENTA = 16711935, CYAN = 16776960, WEISS = 16777215;
+
+// Prints after blanking the text's rectangle in black; runs the queue once.
+void TEXT_AUSGEBEN(Spiel& s, const std::string& text, int groesse, int x, int y, Farbe farbe);
+void TEXT_MIT_HINTERGRUND(Spiel& s, const std::string& text, int groesse, int x, int y,
+                          Farbe hintergrund, Farbe farbe);
+// Runs the message queue once: events reach the handlers, due timers fire.
+void DoEvents(Spiel& s);
+// Sleeps the given time (the game's fixed pauses), then nothing else.
+void Warten(Spiel& s, int ms);
+// Sets TasteDa to 0 and polls every 5 ms until a key (or click) is noted.
+void AUF_TASTE_WARTEN(Spiel& s);
+
+void JA_NEIN(Spiel& s, Integer& wert, int x, int y, int groesse, Farbe farbe);
+// Texte and Tasten are indexed from 1 (entry 0 unused).
+void AUSWAHL(Spiel& s, const std::vector<std::string>& texte, int von, int bis, int x, int y,
+             int groesse, Farbe farbe, Long& vorgabe, const std::vector<std::string>& tasten);
+void ZAHL_EINGEBEN(Spiel& s, long long min, long long max, int x, int y, int groesse,
+                   Farbe farbe, int breite, int vorgabe, int schiff);
+
+void Form_KeyDown(Spiel& s, int keyCode);
+void Form_KeyPress(Spiel& s, int keyAscii);
+void Form_MouseUp(Spiel& s, int knopf, int x, int y);
+void Form_QueryUnload(Spiel& s, bool& abbrechen);
+void tmrZeit_Timer(Spiel& s);
+
+// Draws on the window with the current line width.
+void LINIE(Spiel& s, int x1, int y1, int x2, int y2, Farbe f);
+void RAHMEN(Spiel& s, int x1, int y1, int x2, int y2, Farbe f);
+void BOX(Spiel& s, int x1, int y1, int x2, int y2, Farbe f);
+void BILD(Spiel& s, const std::string& schluessel, int x, int y);
