@@ -158,6 +158,7 @@ struct Spiel {
     std::vector<std::string> AuswahlTasten;
 
     // --- the window and its timers ----------------------------------------
+    std::string Titel = "Quorvant";
     int Linienbreite = 1;
     bool tmrZeitAn = false;
     bool tmrStartAn = false;

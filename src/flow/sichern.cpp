@@ -1,0 +1,141 @@
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+
+#include "flow/programm.h"
+#include "flow/routinen.h"
+#include "flow/spielstand.h"
+#include "screen/ausgabe.h"
+#include "screen/musik.h"
+#include "state/text.h"
+
+namespace fs = std::filesystem;
+
+namespace {
+
+// Names of the saved games in the folder, in the order the folder gives them.
+std::vector<std::string> Spielstaende(const std::string& ordner, bool mitEndung, size_t hoechstens) {
+    std::vector<std::string> namen;
+    std::error_code ec;
+    for (fs::directory_iterator it(ordner, ec), ende; !ec && it != ende; it.increment(ec)) {
+        const fs::path& p = it->path();
+        if (p.extension() != ".qvt" || !it->is_regular_file(ec)) continue;
+        std::string name = T(p.filename().string());
+        if (!mitEndung) name = name.substr(0, name.find('.'));
+        namen.push_back(name);
+        if (namen.size() >= hoechstens) break;
+    }
+    return namen;
+}
+
+bool NamensZeichen(unsigned char c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == 196 || c == 214 ||
+           c == 220 || c == 228 || c == 246 || c == 252;
+}
+
+void Fehler(Spiel& s, const std::string& text) {
+    std::fprintf(stderr, "%s\n", Utf8(text).c_str());
+    BOX(s, 22, 625, 488, 732, SCHWARZ);
+    TEXT_AUSGEBEN(s, text.substr(0, 36), 15, 50, 660, ROT);
+    if (text.size() > 36) TEXT_AUSGEBEN(s, text.substr(36, 36), 15, 50, 690, ROT);
+    DoEvents(s);
+    Warten(s, 3000);
+}
+
+}  // namespace
+
+void SPIEL_SICHERN(Spiel& s) {
+    const std::string ordner = DATEN_ORDNER(s);
+    const std::vector<std::string> namen = Spielstaende(ordner, false, 100);
+    for (int i = 1; i <= 100; ++i) s.Dateiliste(i) = i <= static_cast<int>(namen.size()) ? namen[static_cast<size_t>(i - 1)] : "";
+    if (!namen.empty() && s.DateiNummer <= 0) s.DateiNummer = 1;
+    bool zuerstZeigen = true;
+
+    for (;;) {
+        std::error_code ec;
+        if (!fs::is_directory(ordner, ec)) {
+            fs::create_directories(ordner, ec);
+            if (ec) {
+                Fehler(s, T("Der Ordner für Spielstände kann nicht angelegt werden."));
+                return;
+            }
+        }
+        TEXT_AUSGEBEN(s, "Dateiname: ", 15, 50, 630, WEISS);
+        std::string name;
+        s.TastenZeichen.clear();
+        bool fertig = false;
+        while (!fertig) {
+            s.TasteDa = 0;
+            while (s.TasteDa == 0 && s.TastenZeichen.empty()) {
+                s.plattform->schlafen(5);
+                DoEvents(s);
+            }
+            const int code = s.TasteDa ? s.TastenCode : 0;
+            if (code == Taste::Enter) {
+                fertig = true;
+            } else if (code == Taste::Esc) {
+                return;
+            } else if (code == Taste::Backspace) {
+                if (!name.empty()) name.pop_back();
+                TEXT_AUSGEBEN(s, name + " ", 15, 180, 630, WEISS);
+            } else if ((code == Taste::Hoch || code == Taste::Runter) && s.DateiNummer >= 1) {
+                TEXT_AUSGEBEN(s, Space(static_cast<int>(name.size())), 15, 180, 630, WEISS);
+                if (!zuerstZeigen) {
+                    if (code == Taste::Hoch) {
+                        ++s.DateiNummer;
+                        if (s.DateiNummer > 100 || s.Dateiliste(s.DateiNummer).empty()) s.DateiNummer = 1;
+                    } else {
+                        --s.DateiNummer;
+                        if (s.DateiNummer == 0) {
+                            s.DateiNummer = 1;
+                            for (int i = 1; i <= 100; ++i)
+                                if (!s.Dateiliste(i).empty()) s.DateiNummer = static_cast<Integer>(i);
+                        }
+                    }
+                }
+                zuerstZeigen = false;
+                name = s.Dateiliste(s.DateiNummer);
+                TEXT_AUSGEBEN(s, name, 15, 180, 630, WEISS);
+            } else if (!s.TastenZeichen.empty()) {
+                unsigned char c = static_cast<unsigned char>(s.TastenZeichen[0]);
+                if (NamensZeichen(c) && name.size() < 10) {
+                    name += static_cast<char>(c);
+                    TEXT_AUSGEBEN(s, name, 15, 180, 630, WEISS);
+                }
+            }
+            s.TastenZeichen.clear();
+        }
+        if (name.empty()) continue;
+        const std::string pfad = ordner + "/" + Utf8(name) + ".qvt";
+        if (fs::exists(pfad, ec)) {
+            TEXT_AUSGEBEN(s, "Datei existiert schon.", 15, 50, 660, WEISS);
+            TEXT_AUSGEBEN(s, T("Überschreiben?"), 15, 50, 690, WEISS);
+            Integer wert = -1;
+            JA_NEIN(s, wert, 250, 690, 15, WEISS);
+            if (s.Eingabe != 1) {
+                BOX(s, 50, 630, 488, 710, SCHWARZ);
+                continue;
+            }
+            BOX(s, 50, 690, 488, 710, SCHWARZ);
+        }
+        std::string fehler;
+        if (!SPIELSTAND_DATEI_SCHREIBEN(s, pfad, fehler)) {
+            Fehler(s, fehler);
+            return;
+        }
+        TEXT_AUSGEBEN(s, "Spiel erfolgreich gespeichert.", 15, 50, 660, WEISS);
+        DoEvents(s);
+        if (s.BeendenNachSichern != 0) {
+            MCI_Stop(s);
+            TEXT_AUSGEBEN(s, "Auf Wiedersehen!", 15, 50, 690, WEISS);
+            DoEvents(s);
+            Warten(s, 2000);
+            PROGRAMM_BEENDEN(s, 0);
+        }
+        Warten(s, 1000);
+        return;
+    }
+}
+
+// Loading arrives with the start dialog; until then there is nothing to load.
+void SPIEL_LADEN(Spiel& s) { s.Eingabe = -1; }

@@ -1,0 +1,99 @@
+#pragma once
+// The platform without a window: the same canvas in memory, a virtual clock
+// (a sleep costs nothing) and input read from a script. Tests and the
+// headless driver run the game on it.
+#include <cstdint>
+#include <deque>
+#include <string>
+#include <vector>
+
+#include "screen/leinwand.h"
+#include "screen/plattform.h"
+
+class HeadlessPlattform : public Plattform {
+public:
+    HeadlessPlattform();
+
+    // Script lines: key NAME, type TEXT, click X Y, wait MS, answer yes|no,
+    // close, # comments. On a bad line returns false and names it.
+    bool skriptLaden(const std::string& text, std::string& fehler);
+    void saatFestlegen(uint32_t saat) { saatFest_ = true; saat_ = saat; }
+    void maxMsFestlegen(long long ms) { maxMs_ = ms; }
+    void spurAufzeichnen(bool an) { spurAn_ = an; }
+    bool schriftBereit(std::string& fehler);
+    Leinwand& leinwand() { return leinwand_; }
+
+    // What is visible, one line per item (text / picture), in print order.
+    std::string bildschirm() const;
+    const std::string& spur() const { return spur_; }
+    bool skriptAufgebraucht() const;
+    const std::string& titel() const { return titel_; }
+    long long virtuelleZeit() const { return uhr_ - START_MS; }
+    std::vector<std::string> musikGespielt;  // every piece started, in order
+
+    // Plattform
+    void leeren() override;
+    void titelSetzen(const std::string& cp1252) override;
+    void text(const std::string& cp1252, int groesse, int x, int y, Farbe f) override;
+    void textMessen(const std::string& cp1252, int groesse, int& breite, int& hoehe) override;
+    void linie(int x1, int y1, int x2, int y2, Farbe f, int breite) override;
+    void rahmen(int x1, int y1, int x2, int y2, Farbe f, int breite) override;
+    void box(int x1, int y1, int x2, int y2, Farbe f) override;
+    void kreis(int cx, int cy, int r, Farbe f, bool gefuellt, int breite) override;
+    void bild(const std::string& schluessel, int x, int y) override;
+    void schlafen(int ms) override;
+    void pumpen() override;
+    bool ereignisHolen(Ereignis& e) override;
+    long long uhrMs() override { return uhr_; }
+    uint32_t saat() override;
+    bool frage(const std::string& titel, const std::string& text) override;
+    void meldung(const std::string& titel, const std::string& text, BoxArt art) override;
+    bool musikSpielen(const std::string& pfad) override;
+    void musikStoppen() override;
+
+private:
+    static constexpr long long START_MS = 1000000;
+    enum class Art { Taste, Tippen, Klick, Warten, Antwort, Schliessen };
+    struct Zeile {
+        Art art = Art::Taste;
+        int nummer = 0;      // line number in the script
+        int code = 0;        // key code
+        int zeichen = -1;    // character of the key, -1 none
+        std::string text;    // type: Windows-1252
+        int x = 0, y = 0;
+        long long ms = 0;
+        bool ja = true;
+    };
+    struct Posten {  // one thing printed or painted, for the screen file
+        bool istText = true;
+        int x = 0, y = 0, groesse = 0;
+        Farbe farbe = 0;
+        std::string text;            // Windows-1252, or the picture key
+        std::vector<bool> verdeckt;  // per character
+        int zellB = 0, zellH = 0;    // character cell, or picture size
+    };
+
+    void verdecken(int x1, int y1, int x2, int y2);  // inclusive
+    void spurZeile(const std::string& zeile);
+    void nichtGeschlafen() { kurzGeschlafen_ = false; }
+    bool ausliefern();  // one scripted input into the queue; false if none due
+
+    Leinwand leinwand_;
+    std::vector<Zeile> skript_;
+    size_t pos_ = 0;
+    size_t tippPos_ = 0;  // next character of a "type" line
+    std::deque<Ereignis> warteschlange_;
+    long long uhr_ = START_MS;
+    long long wartenBis_ = 0;
+    long long maxMs_ = 86400000LL;
+    bool kurzGeschlafen_ = false;
+    bool saatFest_ = false;
+    uint32_t saat_ = 0;
+    int antwortVorgemerkt_ = 0;  // 1 yes, 2 no, 0 none
+    bool spurAn_ = false;
+    std::string spur_;
+    std::string letzteSpur_;
+    long long spurWiederholung_ = 0;
+    std::vector<Posten> posten_;
+    std::string titel_;
+};

@@ -1,0 +1,105 @@
+// quorvant-headless: the game from its start on the headless platform, fed
+// by a script, writing what a test wants to see.
+#include <cstdio>
+#include <cstring>
+#include <fstream>
+#include <iostream>
+#include <memory>
+#include <sstream>
+#include <string>
+
+#include "flow/programm.h"
+#include "flow/spielstand.h"
+#include "screen/headless/headless_plattform.h"
+#include "state/spiel.h"
+
+namespace {
+
+void Hilfe() {
+    std::fprintf(stderr,
+                 "Aufruf: quorvant-headless [--data DIR] [--seed N] [--script DATEI|-] [--max-ms MS]\n"
+                 "                          [--screen DATEI] [--png DATEI] [--state DATEI] [--trace DATEI]\n");
+}
+
+bool Schreiben(const std::string& pfad, const std::string& inhalt) {
+    std::ofstream aus(pfad, std::ios::binary);
+    aus << inhalt;
+    return static_cast<bool>(aus);
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    std::string daten = QUORVANT_DATEN_STANDARD, skript, screen, png, state, trace;
+    long long seed = -1, maxMs = 86400000LL;
+    for (int i = 1; i < argc; ++i) {
+        std::string a = argv[i];
+        auto wert = [&]() -> std::string {
+            if (i + 1 >= argc) {
+                std::fprintf(stderr, "Option %s braucht einen Wert.\n", a.c_str());
+                std::exit(2);
+            }
+            return argv[++i];
+        };
+        if (a == "--data") daten = wert();
+        else if (a == "--seed") seed = std::stoll(wert());
+        else if (a == "--script") skript = wert();
+        else if (a == "--max-ms") maxMs = std::stoll(wert());
+        else if (a == "--screen") screen = wert();
+        else if (a == "--png") png = wert();
+        else if (a == "--state") state = wert();
+        else if (a == "--trace") trace = wert();
+        else if (a == "--help" || a == "-h") { Hilfe(); return 0; }
+        else {
+            std::fprintf(stderr, "Unbekannte Option: %s\n", a.c_str());
+            Hilfe();
+            return 2;
+        }
+    }
+
+    auto plattform = std::make_unique<HeadlessPlattform>();
+    std::string fehler;
+    if (!skript.empty()) {
+        std::stringstream inhalt;
+        if (skript == "-") {
+            inhalt << std::cin.rdbuf();
+        } else {
+            std::ifstream ein(skript, std::ios::binary);
+            if (!ein) {
+                std::fprintf(stderr, "Skript '%s' nicht gefunden.\n", skript.c_str());
+                return 2;
+            }
+            inhalt << ein.rdbuf();
+        }
+        if (!plattform->skriptLaden(inhalt.str(), fehler)) {
+            std::fprintf(stderr, "%s\n", fehler.c_str());
+            return 2;
+        }
+    }
+    if (!plattform->schriftBereit(fehler)) {
+        std::fprintf(stderr, "%s\n", fehler.c_str());
+        return 1;
+    }
+    plattform->leinwand().bilderLaden(daten);
+    if (seed >= 0) plattform->saatFestlegen(static_cast<uint32_t>(seed));
+    plattform->maxMsFestlegen(maxMs);
+    plattform->spurAufzeichnen(!trace.empty());
+
+    auto spiel = std::make_unique<Spiel>();
+    spiel->ProgrammVerzeichnis = daten;
+    const int status = PROGRAMM_AUSFUEHREN(*spiel, *plattform);
+
+    bool gut = true;
+    if (!screen.empty()) gut &= Schreiben(screen, plattform->bildschirm());
+    if (!trace.empty()) gut &= Schreiben(trace, plattform->spur() + "\n");
+    if (!state.empty()) {
+        std::vector<uint8_t> b = SPIELSTAND_BYTES(*spiel);
+        gut &= Schreiben(state, std::string(b.begin(), b.end()));
+    }
+    if (!png.empty() && !plattform->leinwand().pngSchreiben(png, fehler)) {
+        std::fprintf(stderr, "%s\n", fehler.c_str());
+        gut = false;
+    }
+    if (!gut) return 1;
+    return status;
+}
