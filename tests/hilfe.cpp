@@ -1,0 +1,82 @@
+#include "hilfe.h"
+
+#include <sys/wait.h>
+#include <unistd.h>
+
+#include <cstdio>
+#include <filesystem>
+#include <fstream>
+#include <sstream>
+
+#include "state/regeln.h"
+#include "state/text.h"
+
+namespace fs = std::filesystem;
+
+TestSpiel::TestSpiel(const std::string& skript) {
+    std::string fehler;
+    EXPECT_TRUE(p->skriptLaden(skript, fehler)) << fehler;
+    EXPECT_TRUE(p->schriftBereit(fehler)) << fehler;
+    p->leinwand().bilderLaden(QUORVANT_DATEN_STANDARD);
+    s->plattform = p.get();
+    s->ProgrammVerzeichnis = QUORVANT_DATEN_STANDARD;
+    s->AnzahlSpieler = 1;
+    VORBELEGUNG_VARIABLEN(*s);
+    s->SpielerName(1) = "Anna";
+    s->Rang(1) = 1;
+    s->Bargeld(1) = 5000;
+    s->HoechstesSchiff = 6;
+}
+
+std::string TestSpiel::textBei(int x, int y) const {
+    std::istringstream ein(p->bildschirm());
+    std::string zeile;
+    const std::string kopf = "text\t" + std::to_string(x) + "\t" + std::to_string(y) + "\t";
+    std::string gefunden;
+    while (std::getline(ein, zeile))
+        if (zeile.rfind(kopf, 0) == 0) gefunden = zeile.substr(zeile.find('\t', zeile.find('\t', kopf.size()) + 1) + 1);
+    return gefunden;
+}
+
+std::string TempOrdner(const std::string& name) {
+    const fs::path p = fs::temp_directory_path() / ("quorvant-test-" + std::to_string(::getpid()) + "-" + name);
+    fs::remove_all(p);
+    fs::create_directories(p);
+    return p.string();
+}
+
+std::string DatenKopie(const std::string& name) {
+    const std::string ziel = TempOrdner(name);
+    fs::copy(QUORVANT_DATEN_STANDARD, ziel, fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+    return ziel;
+}
+
+namespace {
+std::string Lesen(const std::string& pfad) {
+    std::ifstream ein(pfad, std::ios::binary);
+    std::stringstream ss;
+    ss << ein.rdbuf();
+    return ss.str();
+}
+}  // namespace
+
+TreiberLauf Treiber(const std::string& skript, const std::string& optionen, const std::string& datenOrdner) {
+    static int zaehler = 0;
+    const std::string ordner = TempOrdner("treiber" + std::to_string(++zaehler));
+    const std::string skriptDatei = ordner + "/skript.txt";
+    std::ofstream(skriptDatei, std::ios::binary) << skript;
+    std::string befehl = std::string(QUORVANT_HEADLESS_PROGRAMM) + " " + optionen + " --script " + skriptDatei +
+                         " --screen " + ordner + "/screen.txt --state " + ordner + "/state.bin --trace " + ordner +
+                         "/trace.txt";
+    if (!datenOrdner.empty()) befehl += " --data " + datenOrdner;
+    befehl += " 2>" + ordner + "/stderr.txt";
+    const int rc = std::system(befehl.c_str());
+    TreiberLauf lauf;
+    lauf.status = WIFEXITED(rc) ? WEXITSTATUS(rc) : -1;
+    lauf.screen = Lesen(ordner + "/screen.txt");
+    lauf.trace = Lesen(ordner + "/trace.txt");
+    const std::string st = Lesen(ordner + "/state.bin");
+    lauf.state.assign(st.begin(), st.end());
+    lauf.fehler = Lesen(ordner + "/stderr.txt");
+    return lauf;
+}

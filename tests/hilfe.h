@@ -1,0 +1,50 @@
+#pragma once
+// Shared pieces of the tests: a game on the headless platform fed by a
+// script, and a run of the headless driver.
+#include <gtest/gtest.h>
+
+#include <cstdint>
+#include <memory>
+#include <string>
+#include <vector>
+
+#include "screen/headless/headless_plattform.h"
+#include "state/spiel.h"
+
+struct TestSpiel {
+    std::unique_ptr<Spiel> s = std::make_unique<Spiel>();
+    std::unique_ptr<HeadlessPlattform> p = std::make_unique<HeadlessPlattform>();
+
+    // A game of one player with the tables filled and no galaxy.
+    explicit TestSpiel(const std::string& skript = "");
+    // Runs f until it returns or the script is used up; true if it returned.
+    template <class F>
+    bool laufen(F f) {
+        try {
+            f(*s);
+            return true;
+        } catch (const ProgrammEnde&) {
+            return false;
+        }
+    }
+    std::string bildschirm() const { return p->bildschirm(); }
+    // The text printed at (x, y) on the screen now, "" if none.
+    std::string textBei(int x, int y) const;
+};
+
+struct TreiberLauf {
+    int status = -1;
+    std::string screen;
+    std::string trace;
+    std::vector<uint8_t> state;
+    std::string fehler;  // standard error
+};
+
+// Runs build/.../quorvant-headless with the script and options.
+TreiberLauf Treiber(const std::string& skript, const std::string& optionen = "--seed 7",
+                    const std::string& datenOrdner = "");
+
+// A fresh empty folder below the test's temporary directory.
+std::string TempOrdner(const std::string& name);
+// A copy of the project's data folder (star list, music, pictures) to play in.
+std::string DatenKopie(const std::string& name);

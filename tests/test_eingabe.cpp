@@ -1,0 +1,200 @@
+// The three prompts and the input rules, driven by scripted keys.
+#include "hilfe.h"
+#include "screen/ausgabe.h"
+#include "state/text.h"
+
+namespace {
+
+std::vector<std::string> Liste(std::initializer_list<const char*> t) {
+    std::vector<std::string> v(1);
+    for (const char* x : t) v.push_back(T(x));
+    return v;
+}
+
+Long Auswahl(const std::string& skript, Long vorgabe, const std::vector<std::string>& tasten = Liste({"*"})) {
+    TestSpiel t(skript);
+    const auto texte = Liste({"Anton", "Berta", "", "Bruno", "Cäsar"});
+    EXPECT_TRUE(t.laufen([&](Spiel& s) { AUSWAHL(s, texte, 1, 5, 50, 600, 15, WEISS, vorgabe, tasten); }));
+    return t.s->Eingabe;
+}
+
+// vorbereitet: a game made for the case, handed over to the test game.
+Long Zahl(const std::string& skript, long long min, long long max, int vorgabe = 0, int schiff = 0,
+          Spiel* vorbereitet = nullptr) {
+    TestSpiel t(skript);
+    if (vorbereitet) {
+        vorbereitet->plattform = t.p.get();
+        t.s.reset(vorbereitet);
+    }
+    EXPECT_TRUE(t.laufen([&](Spiel& s) { ZAHL_EINGEBEN(s, min, max, 150, 630, 15, WEISS, 5, vorgabe, schiff); }));
+    return t.s->Eingabe;
+}
+
+}  // namespace
+
+TEST(JaNein, TastenUndErgebnis) {
+    struct Fall { const char* skript; Integer wert; Long eingabe; Integer wertDanach; };
+    const Fall faelle[] = {
+        {"key ENTER", 0, 2, 0},                  // "nein" confirmed at once
+        {"key ENTER", -1, 1, -1},
+        {"key J\nkey ENTER", 0, 1, -1},
+        {"key N\nkey ENTER", -1, 2, 0},
+        {"key UP\nkey ENTER", -1, 2, 0},
+        {"key DOWN\nkey DOWN\nkey ENTER", 0, 2, 0},
+        {"key X\nkey 5\nkey ENTER", -1, 1, -1},  // other keys do nothing
+        {"key N\nkey ESC", -1, -1, 0},           // Esc keeps the value as it stands
+    };
+    for (const Fall& f : faelle) {
+        TestSpiel t(f.skript);
+        Integer wert = f.wert;
+        ASSERT_TRUE(t.laufen([&](Spiel& s) { JA_NEIN(s, wert, 320, 600, 15, WEISS); })) << f.skript;
+        EXPECT_EQ(t.s->Eingabe, f.eingabe) << f.skript;
+        EXPECT_EQ(wert, f.wertDanach) << f.skript;
+        EXPECT_EQ(t.s->TasteDa, -1) << "Enter and Esc leave the key noted";
+        EXPECT_EQ(t.textBei(320, 600), f.wertDanach == -1 ? "  ja" : "nein");
+    }
+}
+
+TEST(Auswahl, BlaetternHaeltAnDenEnden) {
+    EXPECT_EQ(Auswahl("key UP\nkey ENTER", 5), 5);
+    EXPECT_EQ(Auswahl("key DOWN\nkey ENTER", 1), 1);
+    EXPECT_EQ(Auswahl("key DOWN\nkey ENTER", 4), 2) << "empty entries are skipped";
+    EXPECT_EQ(Auswahl("key UP\nkey ENTER", 2), 4);
+    EXPECT_EQ(Auswahl("key ENTER", 3), 4) << "the start moves on past an empty entry";
+    EXPECT_EQ(Auswahl("key ESC", 2), -1);
+}
+
+TEST(Auswahl, AnfangsbuchstabenSuchenMitUmlauf) {
+    EXPECT_EQ(Auswahl("key B\nkey ENTER", 1), 2);
+    EXPECT_EQ(Auswahl("key B\nkey B\nkey ENTER", 1), 4);
+    EXPECT_EQ(Auswahl("key B\nkey B\nkey B\nkey ENTER", 1), 2) << "the search wraps from the last entry";
+    EXPECT_EQ(Auswahl("key A\nkey ENTER", 1), 1) << "only the current entry matches: nothing moves";
+    EXPECT_EQ(Auswahl("key Q\nkey ENTER", 2), 2);
+}
+
+TEST(Auswahl, EigeneTastenListe) {
+    const auto tasten = Liste({"X", "Y", "", "Z", "W"});
+    EXPECT_EQ(Auswahl("key Z\nkey ENTER", 1, tasten), 4);
+    EXPECT_EQ(Auswahl("key Q\nkey ENTER", 1, tasten), 1);
+    EXPECT_EQ(Auswahl("key W\nkey UP\nkey ENTER", 1, tasten), 5);
+}
+
+TEST(Auswahl, KlickAufPlanetOderSchiffWaehltUndBestaetigt) {
+    TestSpiel t("click 600 260");
+    Spiel& s = *t.s;
+    s.Bildschirm = "HAUPT";
+    s.KlickFelder(1) = KlickFeld{510, 255, 990, 275, -1, 123};
+    std::vector<std::string> texte(1), tasten(1);
+    for (int i = 1; i <= 12; ++i) {
+        texte.push_back(s.MenueText(i));
+        tasten.push_back(s.MenueTasten(i));
+    }
+    Long vorgabe = 1;
+    ASSERT_TRUE(t.laufen([&](Spiel& sp) { AUSWAHL(sp, texte, 1, 12, 50, 600, 15, WEISS, vorgabe, tasten); }));
+    EXPECT_EQ(s.Eingabe, 5);
+    EXPECT_EQ(vorgabe, 5);
+    EXPECT_EQ(s.MausPlanet, 123) << "the planet stays for the routine that follows";
+    EXPECT_EQ(s.MausTreffer, 0);
+
+    // A ship counts only when it belongs to the player whose turn it is.
+    TestSpiel u("click 600 260\nclick 600 285");
+    Spiel& v = *u.s;
+    v.Bildschirm = "HAUPT";
+    v.Schiffe(4).Planet = 3;
+    v.Schiffe(4).Besitzer = 2;
+    v.Schiffe(5).Planet = 3;
+    v.Schiffe(5).Besitzer = 1;
+    v.KlickFelder(1) = KlickFeld{510, 255, 990, 275, 4, -1};
+    v.KlickFelder(2) = KlickFeld{510, 280, 990, 300, 5, -1};
+    vorgabe = 1;
+    ASSERT_TRUE(u.laufen([&](Spiel& sp) { AUSWAHL(sp, texte, 1, 12, 50, 600, 15, WEISS, vorgabe, tasten); }));
+    EXPECT_EQ(v.Eingabe, 2);
+    EXPECT_EQ(v.MausSchiff, 5);
+    EXPECT_EQ(vorgabe, 2);
+}
+
+TEST(ZahlEingeben, ZiffernMitGrenzen) {
+    EXPECT_EQ(Zahl("key 7\nkey 9\nkey ENTER", 1, 50), 7) << "79 is above Max and refused";
+    EXPECT_EQ(Zahl("key 0\nkey 3\nkey ENTER", 1, 50), 3) << "a refused first digit keeps the flag";
+    EXPECT_EQ(Zahl("key 4\nkey 2\nkey ENTER", 1, 50), 42);
+    EXPECT_EQ(Zahl("key ENTER", 1, 50), 1) << "starts at Min";
+    EXPECT_EQ(Zahl("key ENTER", 1, 50, 20), 20) << "or at the proposal";
+    EXPECT_EQ(Zahl("key 2\nkey 5\nkey UP\nkey 3\nkey ENTER", 0, 1000), 3) << "Up sets the first-digit flag";
+    EXPECT_EQ(Zahl("key UP\nkey UP\nkey ENTER", 0, 1, 1), 1);
+    EXPECT_EQ(Zahl("key DOWN\nkey ENTER", 5, 9), 5);
+    EXPECT_EQ(Zahl("key SPACE\nkey ENTER", 5, 9), 0) << "Blank ignores Min";
+    EXPECT_EQ(Zahl("key BACKSPACE\nkey ENTER", 0, 1000, 345), 34);
+    EXPECT_EQ(Zahl("key 3\nkey ESC", 0, 9), -1);
+    EXPECT_EQ(Zahl("key M\nkey ENTER", 0, 9, 4), 4) << "M is for a ship only";
+}
+
+TEST(ZahlEingeben, TasteMBietetDieHoechstmoeglicheLadung) {
+    auto frachter = [](Long bestand, Integer ladung, Long bargeld) {
+        auto* s = new Spiel;
+        s->AktSpieler = 1;
+        s->Bargeld(1) = bargeld;
+        s->Schiffe(8).Planet = 57;
+        s->Schiffe(8).Laderaum = 100;
+        s->Schiffe(8).Ladung = ladung;
+        s->Dokument(57).Bestand = bestand;
+        s->Dokument(57).Preis = 10;
+        return s;
+    };
+    EXPECT_EQ(Zahl("key M\nkey ENTER", 0, 9, 0, 8, frachter(4599, 0, 100000)), 45) << "the stock, in whole tonnes";
+    EXPECT_EQ(Zahl("key M\nkey ENTER", 0, 9, 0, 8, frachter(12345, 30, 100000)), 70) << "the free hold";
+    EXPECT_EQ(Zahl("key M\nkey ENTER", 0, 9, 0, 8, frachter(12345, 30, 505)), 50) << "the cash";
+}
+
+TEST(Ereignisse, FunktionstastenErreichenDieEingabeNicht) {
+    TestSpiel t("key F5\nkey F4\nkey F3\nkey ENTER");
+    Spiel& s = *t.s;
+    s.Dokument(11).Ware = 0;  // no map yet: F3 is a plain key
+    Integer wert = -1;
+    ASSERT_TRUE(t.laufen([&](Spiel& sp) { JA_NEIN(sp, wert, 320, 600, 15, WEISS); }));
+    EXPECT_EQ(s.SoundAn, 0);
+    EXPECT_EQ(s.ProduktionAn, 0);
+    EXPECT_EQ(s.Eingabe, 1) << "F3 before the map is ignored by the prompt, Enter confirms";
+
+    TestSpiel u("key F5\nkey F5\nkey F4\nkey ENTER");
+    u.s->Dokument(11).Ware = 3;
+    wert = -1;
+    u.p->spurAufzeichnen(true);
+    ASSERT_TRUE(u.laufen([&](Spiel& sp) { JA_NEIN(sp, wert, 320, 600, 15, WEISS); }));
+    EXPECT_EQ(u.s->SoundAn, -1);
+    EXPECT_EQ(u.s->ProduktionAn, 0);
+    EXPECT_NE(u.p->spur().find("music stop"), std::string::npos);
+    EXPECT_NE(u.p->spur().find("picture 472 22 Sound"), std::string::npos);
+    EXPECT_NE(u.p->spur().find("box 472 22 488 40 0"), std::string::npos);
+    EXPECT_NE(u.bildschirm().find("picture\t454\t22\tProduktion"), std::string::npos);
+}
+
+TEST(Ereignisse, TastendruckLiefertZeichenInWindows1252) {
+    TestSpiel t("type ß\nkey ENTER");
+    std::string zeichen;
+    ASSERT_TRUE(t.laufen([&](Spiel& s) {
+        s.TasteDa = 0;
+        while (s.TasteDa == 0) { s.plattform->schlafen(5); DoEvents(s); }
+        zeichen = s.TastenZeichen;
+        s.TastenZeichen.clear();
+        AUF_TASTE_WARTEN(s);
+    }));
+    EXPECT_EQ(zeichen, std::string(1, '\xDF'));
+    EXPECT_TRUE(t.s->TastenZeichen.empty()) << "Enter carries no character";
+}
+
+TEST(Ausgabe, TextLoeschtSeinRechteckUndZaehltZeichen) {
+    TestSpiel t;
+    Spiel& s = *t.s;
+    t.laufen([&](Spiel& sp) {
+        TEXT_AUSGEBEN(sp, T("Größe"), 15, 100, 100, GRUEN);
+        TEXT_AUSGEBEN(sp, "     ", 15, 100, 100, WEISS);
+        TEXT_AUSGEBEN(sp, "Zahl" + Rechtsbuendig(42, 6), 15, 100, 200, WEISS);
+    });
+    EXPECT_EQ(t.textBei(100, 100), "") << "blanks of the same length erase a text";
+    EXPECT_EQ(t.textBei(100, 200), "Zahl    42");
+    int w = 0, h = 0;
+    s.plattform->textMessen(T("Größe"), 15, w, h);
+    EXPECT_EQ(w, 60) << "ö and ß are one character each";
+    EXPECT_EQ(Rechtsbuendig(-5, 4), "  -5");
+    EXPECT_EQ(Rechtsbuendig(123456, 3), " 123456") << "a number wider than its field is printed in full";
+}

@@ -1,0 +1,126 @@
+// The headless driver: its script, its delivery rule and what it writes.
+#include <cstring>
+#include "flow/spielstand.h"
+#include "hilfe.h"
+#include "state/text.h"
+
+namespace {
+
+Long JahrIm(const std::vector<uint8_t>& state) {
+    Long j = 0;
+    std::memcpy(&j, state.data() + 4, 4);  // item 2, behind the 4 bytes of item 1
+    return j;
+}
+
+}  // namespace
+
+TEST(Treiber, LieferungNurNachKurzemSchlaf) {
+    HeadlessPlattform p;
+    std::string fehler;
+    ASSERT_TRUE(p.skriptLaden("key A\nclick 10 20\n", fehler));
+    Ereignis e;
+    p.schlafen(1000);
+    p.pumpen();
+    EXPECT_FALSE(p.ereignisHolen(e)) << "never after a fixed pause";
+    p.schlafen(5);
+    p.box(0, 0, 1, 1, 0);
+    p.pumpen();
+    EXPECT_FALSE(p.ereignisHolen(e)) << "never by the pump inside a print";
+    p.schlafen(5);
+    p.pumpen();
+    ASSERT_TRUE(p.ereignisHolen(e));
+    EXPECT_EQ(e.art, EreignisArt::KeyDown);
+    EXPECT_EQ(e.code, 'A');
+    ASSERT_TRUE(p.ereignisHolen(e));
+    EXPECT_EQ(e.art, EreignisArt::KeyPress);
+    EXPECT_EQ(e.code, 'a');
+    EXPECT_FALSE(p.ereignisHolen(e)) << "one input at a time";
+    p.schlafen(50);
+    p.pumpen();
+    ASSERT_TRUE(p.ereignisHolen(e));
+    EXPECT_EQ(e.art, EreignisArt::MouseUp);
+    EXPECT_EQ(e.x, 10);
+    EXPECT_EQ(e.y, 20);
+    p.schlafen(5);
+    EXPECT_THROW(p.pumpen(), ProgrammEnde) << "the script is used up and the game polls again";
+}
+
+TEST(Treiber, WartenLaesstVirtuelleZeitVergehen) {
+    HeadlessPlattform p;
+    std::string fehler;
+    ASSERT_TRUE(p.skriptLaden("wait 30\nkey B\n", fehler));
+    Ereignis e;
+    int polls = 0;
+    while (!p.ereignisHolen(e)) {
+        p.schlafen(5);
+        p.pumpen();
+        ++polls;
+    }
+    EXPECT_EQ(e.code, 'B');
+    EXPECT_EQ(polls, 7) << "30 ms of waiting, then the next poll";
+}
+
+TEST(Treiber, UnbekannteSkriptzeileNenntDieZeile) {
+    TreiberLauf lauf = Treiber("key ENTER\n# fine\nhop 3\n");
+    EXPECT_EQ(lauf.status, 2);
+    EXPECT_NE(lauf.fehler.find("3"), std::string::npos);
+    EXPECT_NE(lauf.fehler.find("hop 3"), std::string::npos);
+    EXPECT_EQ(Treiber("key SHIFT\n").status, 2);
+    EXPECT_EQ(Treiber("click 3\n").status, 2);
+}
+
+TEST(Treiber, MenueRundgangBisInsNaechsteJahr) {
+    TreiberLauf lauf = Treiber("# two years skipped, then the turn ends\nkey A\nkey ENTER\nkey 2\nkey ENTER\n"
+                               "key W\nkey ENTER\n");
+    ASSERT_EQ(lauf.status, 0) << lauf.fehler;
+    EXPECT_EQ(JahrIm(lauf.state), 2003);
+    EXPECT_NE(lauf.screen.find("text\t30\t50\t15\t65535\tJahr    2003\n"), std::string::npos) << lauf.screen;
+    EXPECT_NE(lauf.screen.find(Utf8(T("text\t550\t11\t15\t65280\t$$$  M A R K T - B Ö R S E  $$$\n"))),
+              std::string::npos);
+    EXPECT_NE(lauf.screen.find("text\t50\t600\t15\t16777215\tWeiter zum nächsten Jahr   \n"), std::string::npos);
+    EXPECT_NE(lauf.screen.find("text\t50\t190\t15\t65280\t- Lager ist leer! -\n"), std::string::npos);
+    EXPECT_EQ(lauf.screen.find("Wie oft?"), std::string::npos) << "the action box was emptied";
+    EXPECT_NE(lauf.trace.find("title Quorvant    V3.0.0.6"), std::string::npos);
+}
+
+TEST(Treiber, ZustandsdateiHaeltAlleSchiffeUndPlaneten) {
+    TreiberLauf lauf = Treiber("");
+    ASSERT_EQ(lauf.status, 0) << lauf.fehler;
+    Spiel s;
+    std::string fehler;
+    ASSERT_TRUE(SPIELSTAND_LESEN(s, lauf.state, fehler)) << fehler;
+    size_t text = 0;
+    for (int p = 1; p <= 7; ++p) text += s.SpielerName(p).size();
+    for (const auto& sch : s.Schiffe.w) text += sch.Name.size() + sch.Typ.size();
+    for (const auto& pl : s.Dokument.w) text += pl.Name.size();
+    const size_t fest = 4 + 4 + 2 + 2 + 2 + 7 * 2 + 240 + 24 + 12 + 12 + 12 + 2 + 1011 * (82 + 4) + 2 +
+                        4010 * (20 + 2) + 40 * 3 + 84 + 10 + 2 + 10 + 504 + 24 + 180 + 60;
+    EXPECT_EQ(lauf.state.size(), fest + text);
+    EXPECT_EQ(s.Jahr, 2000);
+    EXPECT_EQ(s.AnzahlPlaneten, 1000);
+    EXPECT_EQ(s.Dokument(3).Name, "Sol ");
+    EXPECT_EQ(SPIELSTAND_BYTES(s), lauf.state) << "reading and writing go through the same items";
+}
+
+TEST(Treiber, FensterSchliessenOhneSichernEndetSofort) {
+    TreiberLauf lauf = Treiber("close\nanswer no\n");
+    EXPECT_EQ(lauf.status, 0);
+    EXPECT_NE(lauf.trace.find("msgbox question Quorvant beenden | Soll der Spielstand gespeichert werden? -> no"),
+              std::string::npos);
+    EXPECT_NE(lauf.trace.find("music stop"), std::string::npos);
+}
+
+TEST(Spielstand, BeschaedigteDatenWerdenAbgewiesen) {
+    TreiberLauf lauf = Treiber("");
+    ASSERT_FALSE(lauf.state.empty());
+    Spiel s;
+    s.Jahr = 1234;
+    std::string fehler;
+    std::vector<uint8_t> kurz(lauf.state.begin(), lauf.state.begin() + static_cast<long>(lauf.state.size() / 2));
+    EXPECT_FALSE(SPIELSTAND_LESEN(s, kurz, fehler));
+    EXPECT_EQ(Utf8(fehler), "Der Spielstand ist beschädigt und kann nicht geladen werden.");
+    EXPECT_EQ(s.Jahr, 1234) << "a damaged file leaves the game as it was";
+    std::vector<uint8_t> kaputt = lauf.state;
+    kaputt[12] = 99;  // AnzahlSpieler
+    EXPECT_FALSE(SPIELSTAND_LESEN(s, kaputt, fehler));
+}
