@@ -38,6 +38,19 @@ std::string TestSpiel::textBei(int x, int y) const {
     return gefunden;
 }
 
+std::string NeuesSpielSkript(int spieler, int kapital, const std::vector<std::string>& namen, bool zeitlimit) {
+    std::string k = "key SPACE\nkey ENTER\n";
+    k += "key " + std::to_string(spieler) + "\nkey ENTER\nkey ENTER\nkey ENTER\n";
+    k += zeitlimit ? "key J\nkey ENTER\n" : "key ENTER\n";
+    k += "type " + std::to_string(kapital) + "\nkey ENTER\n";
+    for (int i = 0; i < spieler; ++i) {
+        const std::string name = i < static_cast<int>(namen.size()) ? namen[static_cast<size_t>(i)] : "Spieler" + std::to_string(i + 1);
+        if (!name.empty()) k += "type " + name + "\n";
+        k += "key ENTER\n";
+    }
+    return k;
+}
+
 std::string TempOrdner(const std::string& name) {
     const fs::path p = fs::temp_directory_path() / ("quorvant-test-" + std::to_string(::getpid()) + "-" + name);
     fs::remove_all(p);

@@ -44,6 +44,12 @@ struct TreiberLauf {
 TreiberLauf Treiber(const std::string& skript, const std::string& optionen = "--seed 7",
                     const std::string& datenOrdner = "");
 
+// The inputs from the program start to the first turn: the intro ended by a
+// key, "Neues Spiel?" ja, the dialog with its first entries (1 to 6 players,
+// 100 systems, low demand, no time limit), the capital and the names.
+std::string NeuesSpielSkript(int spieler, int kapital, const std::vector<std::string>& namen = {},
+                             bool zeitlimit = false);
+
 // A fresh empty folder below the test's temporary directory.
 std::string TempOrdner(const std::string& name);
 // A copy of the project's data folder (star list, music, pictures) to play in.

@@ -70,7 +70,8 @@ TEST(Treiber, UnbekannteSkriptzeileNenntDieZeile) {
 }
 
 TEST(Treiber, MenueRundgangBisInsNaechsteJahr) {
-    TreiberLauf lauf = Treiber("# two years skipped, then the turn ends\nkey A\nkey ENTER\nkey 2\nkey ENTER\n"
+    TreiberLauf lauf = Treiber(NeuesSpielSkript(1, 5000) +
+                               "# two years skipped, then the turn ends\nkey A\nkey ENTER\nkey 2\nkey ENTER\n"
                                "key W\nkey ENTER\n");
     ASSERT_EQ(lauf.status, 0) << lauf.fehler;
     EXPECT_EQ(JahrIm(lauf.state), 2003);
@@ -79,12 +80,13 @@ TEST(Treiber, MenueRundgangBisInsNaechsteJahr) {
               std::string::npos);
     EXPECT_NE(lauf.screen.find("text\t50\t600\t15\t16777215\tWeiter zum nächsten Jahr   \n"), std::string::npos);
     EXPECT_NE(lauf.screen.find("text\t50\t190\t15\t65280\t- Lager ist leer! -\n"), std::string::npos);
+    EXPECT_NE(lauf.screen.find("text\t30\t28\t15\t65535\tSpieler  Spieler1"), std::string::npos);
     EXPECT_EQ(lauf.screen.find("Wie oft?"), std::string::npos) << "the action box was emptied";
     EXPECT_NE(lauf.trace.find("title Quorvant    V3.0.0.6"), std::string::npos);
 }
 
 TEST(Treiber, ZustandsdateiHaeltAlleSchiffeUndPlaneten) {
-    TreiberLauf lauf = Treiber("");
+    TreiberLauf lauf = Treiber(NeuesSpielSkript(1, 5000));
     ASSERT_EQ(lauf.status, 0) << lauf.fehler;
     Spiel s;
     std::string fehler;
@@ -98,12 +100,13 @@ TEST(Treiber, ZustandsdateiHaeltAlleSchiffeUndPlaneten) {
     EXPECT_EQ(lauf.state.size(), fest + text);
     EXPECT_EQ(s.Jahr, 2000);
     EXPECT_EQ(s.AnzahlPlaneten, 1000);
+    EXPECT_EQ(s.Bargeld(1), 5000);
     EXPECT_EQ(s.Dokument(3).Name, "Sol ");
     EXPECT_EQ(SPIELSTAND_BYTES(s), lauf.state) << "reading and writing go through the same items";
 }
 
 TEST(Treiber, FensterSchliessenOhneSichernEndetSofort) {
-    TreiberLauf lauf = Treiber("close\nanswer no\n");
+    TreiberLauf lauf = Treiber(NeuesSpielSkript(1, 100) + "close\nanswer no\nkey ESC\n");
     EXPECT_EQ(lauf.status, 0);
     EXPECT_NE(lauf.trace.find("msgbox question Quorvant beenden | Soll der Spielstand gespeichert werden? -> no"),
               std::string::npos);
@@ -111,7 +114,7 @@ TEST(Treiber, FensterSchliessenOhneSichernEndetSofort) {
 }
 
 TEST(Spielstand, BeschaedigteDatenWerdenAbgewiesen) {
-    TreiberLauf lauf = Treiber("");
+    TreiberLauf lauf = Treiber(NeuesSpielSkript(1, 100));
     ASSERT_FALSE(lauf.state.empty());
     Spiel s;
     s.Jahr = 1234;

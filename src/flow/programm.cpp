@@ -5,10 +5,7 @@
 #include "flow/routinen.h"
 #include "screen/ausgabe.h"
 #include "screen/musik.h"
-#include "state/regeln.h"
-#include "state/sterne.h"
 #include "state/text.h"
-#include "state/zufall.h"
 
 namespace {
 
@@ -179,30 +176,6 @@ void SPIELSCHLEIFE(Spiel& s) {
         AKTIONSZEILE(s);
         MELDUNG(s);
     }
-}
-
-// Until the intro and the new-game dialog exist, the start sets up a game of
-// one player with a galaxy of 100 systems.
-void tmrStart_Timer(Spiel& s) {
-    s.tmrStartAn = false;
-    Randomize(s, s.plattform->saat());
-    s.AnzahlSpieler = 1;
-    VORBELEGUNG_VARIABLEN(s);
-    s.SpielerName(1) = "Spieler";
-    s.Bargeld(1) = 5000;
-    s.Rang(1) = 1;
-    s.AnzahlPlaneten = 1000;
-    s.Nachfrage = 2;
-    s.Zeitlimit = 0;
-    s.AktSpieler = 1;
-    s.HoechstesSchiff = static_cast<Integer>(s.AnzahlSpieler + 5);
-    if (!STERNE_NEU(s)) {
-        Warten(s, 3000);
-        PROGRAMM_BEENDEN(s, 1);
-    }
-    s.plattform->leeren();
-    HAUPTBILDSCHIRM(s, true);
-    SPIELSCHLEIFE(s);
 }
 
 void PROGRAMM_BEENDEN(Spiel& s, int status) {

@@ -1,13 +1,17 @@
 #include <algorithm>
 #include <cstdio>
 #include <filesystem>
+#include <fstream>
+#include <iterator>
 
 #include "flow/programm.h"
 #include "flow/routinen.h"
 #include "flow/spielstand.h"
 #include "screen/ausgabe.h"
 #include "screen/musik.h"
+#include "state/regeln.h"
 #include "state/text.h"
+#include "state/zufall.h"
 
 namespace fs = std::filesystem;
 
@@ -137,5 +141,44 @@ void SPIEL_SICHERN(Spiel& s) {
     }
 }
 
-// Loading arrives with the start dialog; until then there is nothing to load.
-void SPIEL_LADEN(Spiel& s) { s.Eingabe = -1; }
+void SPIEL_LADEN(Spiel& s) {
+    Randomize(s, s.plattform->saat());
+    VORBELEGUNG_VARIABLEN(s);
+    s.Dokument(SOL_III).Name = "SOL ";
+    const std::string ordner = DATEN_ORDNER(s);
+    const std::vector<std::string> namen = Spielstaende(ordner, true, 100);
+    for (int i = 1; i <= 100; ++i) s.Dateiliste(i) = i <= static_cast<int>(namen.size()) ? namen[static_cast<size_t>(i - 1)] : "";
+    if (namen.empty()) {
+        TEXT_AUSGEBEN(s, "Es existiert kein gespeichertes Spiel!", 15, 120, 260, ROT);
+        DoEvents(s);
+        Warten(s, 1000);
+        s.Eingabe = -1;
+        return;
+    }
+    TEXT_AUSGEBEN(s, "Dateiname: ", 15, 120, 260, ROT);
+    std::vector<std::string> liste(1);
+    for (const auto& n : namen) liste.push_back(n);
+    Long start = 1;
+    AUSWAHL(s, liste, 1, std::min<int>(static_cast<int>(namen.size()), 99), 250, 260, 15, ROT, start, s.AuswahlTasten);
+    s.DateiNummer = static_cast<Integer>(s.Eingabe);
+    if (s.Eingabe == -1) return;
+
+    s.plattform->leeren();
+    const std::string pfad = ordner + "/" + Utf8(s.Dateiliste(s.DateiNummer));
+    std::ifstream ein(pfad, std::ios::binary);
+    std::vector<uint8_t> bytes((std::istreambuf_iterator<char>(ein)), std::istreambuf_iterator<char>());
+    std::string fehler;
+    if (!ein.good() && !ein.eof()) fehler = T("Der Spielstand kann nicht gelesen werden.");
+    if (fehler.empty() && !SPIELSTAND_LESEN(s, bytes, fehler)) { /* fehler is set */ }
+    if (!fehler.empty()) {
+        std::fprintf(stderr, "%s: %s\n", pfad.c_str(), Utf8(fehler).c_str());
+        TEXT_AUSGEBEN(s, fehler, 15, 120, 260, ROT);
+        DoEvents(s);
+        Warten(s, 3000);
+        s.Eingabe = -1;  // the new-game dialog follows; the file stays as it is
+        return;
+    }
+    s.Eingabe = s.DateiNummer;
+    s.AktSpieler = 1;
+    HAUPTBILDSCHIRM(s, false);
+}

@@ -1,7 +1,6 @@
 #include "flow/routinen.h"
 
-// Ship orders, ship sale and the star map come with their own work; until
+// Ship orders and the star map come with their own work; until
 // then the menu items return straight to the menu.
 void SCHIFFE_ANWEISEN(Spiel&) {}
-void SCHIFF_VERKAUFEN(Spiel&) {}
 void STERNKARTE(Spiel&) {}
