@@ -1,0 +1,9 @@
+#pragma once
+#include <string>
+#include <vector>
+
+#include "state/spiel.h"
+
+// The eighteen places of the order menu for a ship where it stands; entry 0
+// unused, an empty text is a place not offered.
+std::vector<std::string> ANWEISUNGEN(const Spiel& s, int schiff);

@@ -1,0 +1,252 @@
+// Start, Teleportieren and Notruf; the star map and the choice of a target.
+#include "orders/reisen.h"
+
+#include <cmath>
+#include <cstdlib>
+
+#include "flow/routinen.h"
+#include "screen/ausgabe.h"
+#include "state/sterne.h"
+#include "state/text.h"
+#include "views/schiff_anzeigen.h"
+
+namespace {
+
+constexpr Farbe GRAU = 120 + 120 * 256 + 120 * 65536;
+
+int System(int planet) { return (planet - 1) / 10; }
+
+void Cursor(Spiel& s, int z, Farbe f) {
+    if (z == SOL_III) s.plattform->kreis(750, 490, 3, f, false, s.Linienbreite);
+    else s.plattform->kreis(KarteX(s, z), KarteY(s, z), 2, f, false, s.Linienbreite);
+}
+
+bool Portalziel(const Spiel& s, int t, int schiff) {
+    return s.Dokument(t).Portal == -1 && t != s.Schiffe(schiff).Planet;
+}
+
+void Portalname(Spiel& s, int t) {
+    const std::string name = PlanetenName(s, t);
+    TEXT_AUSGEBEN(s, Space(30 - static_cast<int>(name.size())) + name, 15, 70, 660, WEISS);
+}
+
+// The partner of a freighter travels with it.
+void PartnerMitnehmen(Spiel& s, int schiff) {
+    const Schiff& sch = s.Schiffe(schiff);
+    if (sch.Partner > 0 && sch.Partner <= MAX_SCHIFFE) s.Schiffe(sch.Partner).Planet = sch.Planet;
+}
+
+void Beschriftung(Spiel& s, int schiff, int z) {
+    const Planet& pl = s.Dokument(z);
+    std::string l = PlanetenName(s, z);
+    if (z == SOL_III) {
+    } else if (pl.Produktion == 0) {
+        l += " (Prod. unbek.)";
+    } else if (z == s.Schiffe(PIRATEN_HQ).Planet) {
+        l += " (Hauptquartier)";
+    } else {
+        l += " (" + std::to_string(pl.Bestand / 100) + "t " +
+             (pl.Ware >= 1 && pl.Ware <= 20 ? s.WarenName(pl.Ware) : std::string()) + ")";
+    }
+    TEXT_AUSGEBEN(s, l + Space(35 - static_cast<int>(l.size())), 15, 50, 660, WEISS);
+    const int von = s.Schiffe(schiff).Planet;
+    const long d = z == von ? 0 : ENTFERNUNG(s, von, z);
+    TEXT_AUSGEBEN(s, "Entfernung: " + Space(4 - static_cast<int>(Str(d).size())) + std::to_string(d), 15, 50, 690, WEISS);
+}
+
+// The nearest star in the quarter of the map that the key points to.
+int Richtungssuche(const Spiel& s, int z, int taste) {
+    const int zx = s.Dokument(z).X, zy = s.Dokument(z).Y;
+    auto gut = [&](int cx, int cy) {
+        const int dx = cx - zx, dy = cy - zy;
+        switch (taste) {
+            case Taste::Hoch: return zy > cy && std::abs(dx) < std::abs(dy);
+            case Taste::Runter: return zy < cy && std::abs(dx) < std::abs(dy);
+            case Taste::Rechts: return zx < cx && std::abs(dx) > std::abs(dy);
+            default: return zx > cx && std::abs(dx) > std::abs(dy);
+        }
+    };
+    long best = 50000;
+    int kandidat = 0;
+    if (gut(0, 0)) {
+        kandidat = SOL_III;
+        best = static_cast<long>(zx) * zx + static_cast<long>(zy) * zy;
+    }
+    for (int i = 1; i <= s.AnzahlPlaneten / 10; ++i) {
+        const int c = 10 * i + 1;
+        const int cx = s.Dokument(c).X, cy = s.Dokument(c).Y;
+        const long d2 = static_cast<long>(cx - zx) * (cx - zx) + static_cast<long>(cy - zy) * (cy - zy);
+        if (gut(cx, cy) && d2 < best && i != System(z)) {
+            kandidat = c;
+            best = d2;
+        }
+    }
+    return kandidat ? kandidat : z;
+}
+
+// The next star whose name begins with the letter; back in the cursor's own
+// system, or after one round from Sol, the cursor stays.
+int Buchstabensuche(const Spiel& s, int z0, int taste) {
+    int z = z0;
+    for (int runde = 0; runde <= s.AnzahlPlaneten / 10; ++runde) {
+        z = System(z) * 10 + 11;
+        if (z > s.AnzahlPlaneten) z = 11;
+        if (z / 10 == System(z0)) return z0;
+        const std::string& name = s.Dokument(z).Name;
+        if (!name.empty() && static_cast<unsigned char>(name[0]) == taste) return z;
+    }
+    return z0;
+}
+
+}  // namespace
+
+int KarteX(const Spiel& s, int planet) { return static_cast<int>(std::nearbyint(750 + 1.25 * s.Dokument(planet).X)); }
+int KarteY(const Spiel& s, int planet) { return static_cast<int>(std::nearbyint(490 + 1.25 * s.Dokument(planet).Y)); }
+
+void STERNKARTE(Spiel& s) {
+    BOX(s, 502, 245, 998, 738, SCHWARZ);
+    s.Linienbreite = 1;
+    s.plattform->kreis(750, 490, 2, WEISS, true, 1);
+    const int sterne = static_cast<int>(std::nearbyint(s.AnzahlPlaneten / 10.0));
+    for (int i = 1; i <= sterne; ++i) s.plattform->kreis(KarteX(s, 10 * i + 1), KarteY(s, 10 * i + 1), 1, GELB, true, 1);
+    for (int n = 1; n <= s.HoechstesSchiff; ++n) {
+        const Schiff& sch = s.Schiffe(n);
+        if (sch.Typ.empty()) continue;
+        Farbe f;
+        bool linie;
+        if (sch.Besitzer == s.AktSpieler) {
+            f = CYAN;
+            linie = sch.Zustand == 1 && sch.StartPlanet > 0;
+        } else if (sch.Besitzer == 7) {
+            f = GRAU;
+            linie = sch.Zustand == 1;
+        } else {
+            f = BLAU;
+            linie = sch.Zustand == 1 && sch.StartPlanet >= 0;
+        }
+        const int start = std::abs(sch.StartPlanet);
+        if (linie && sch.Planet >= 1 && start >= 1 && start <= MAX_PLANETEN)
+            LINIE(s, KarteX(s, sch.Planet), KarteY(s, sch.Planet), KarteX(s, start), KarteY(s, start), f);
+        if (sch.Planet > 3 && sch.Planet <= MAX_PLANETEN)
+            s.plattform->kreis(KarteX(s, sch.Planet), KarteY(s, sch.Planet), 1, f, true, 1);
+    }
+}
+
+void ZIEL_WAEHLEN(Spiel& s, int schiff) {
+    int z = s.Schiffe(schiff).Planet;
+    bool richtung = false;
+    Cursor(s, z, WEISS);
+    Beschriftung(s, schiff, z);
+    s.TasteDa = 0;
+    for (;;) {
+        s.plattform->schlafen(5);
+        DoEvents(s);
+        if (s.TasteDa == 0) continue;
+        const int c = s.TastenCode;
+        if (c == Taste::Esc) {
+            s.Eingabe = -1;
+            return;
+        }
+        if (c == Taste::Enter) {
+            s.Eingabe = z;
+            return;
+        }
+        int neu = z;
+        if (c == Taste::Leer) {
+            richtung = !richtung;
+        } else if ((c == Taste::Hoch || c == Taste::Runter) && !richtung) {
+            if (c == Taste::Hoch) {
+                neu = z + 1;
+                if (neu == 4) neu = 11;
+                if (neu > s.AnzahlPlaneten + 10) neu = 3;
+            } else {
+                neu = z - 1;
+                if (neu == 2) neu = s.AnzahlPlaneten + 10;
+                if (neu == 10) neu = 3;
+            }
+        } else if (richtung && (c == Taste::Hoch || c == Taste::Runter || c == Taste::Links || c == Taste::Rechts)) {
+            neu = Richtungssuche(s, z, c);
+        } else if (c >= 'A' && c <= 'Z') {
+            neu = Buchstabensuche(s, z, c);
+        } else if (c == Taste::Tab) {
+            neu = System(z) * 10 + 11;
+            if (neu > s.AnzahlPlaneten) neu = 11;
+        } else if (c == Taste::Punkt) {
+            neu = SOL_III;
+        }
+        if (neu != z) {
+            Cursor(s, z, SCHWARZ);
+            z = neu;
+            Cursor(s, z, WEISS);
+        }
+        Beschriftung(s, schiff, z);
+        s.TasteDa = 0;
+    }
+}
+
+void ORDER_START(Spiel& s, int schiff) {
+    STERNKARTE(s);
+    ZIEL_WAEHLEN(s, schiff);
+    Schiff& sch = s.Schiffe(schiff);
+    if (s.Eingabe == -1 || s.Eingabe == sch.Planet) return;
+    sch.Zustand = 1;
+    sch.StartPlanet = sch.Planet;
+    sch.Planet = static_cast<Integer>(s.Eingabe);
+    sch.Dauer = static_cast<Integer>(ENTFERNUNG(s, sch.StartPlanet, sch.Planet));
+    PartnerMitnehmen(s, schiff);
+}
+
+void ORDER_TELEPORTIEREN(Spiel& s, int schiff) {
+    const int letzter = s.AnzahlPlaneten + 10;
+    int t = 3;
+    while (t <= letzter && !Portalziel(s, t, schiff)) ++t;
+    if (t > letzter) {
+        TEXT_AUSGEBEN(s, "Kein weiteres Portal vorhanden!", 15, 50, 660, WEISS);
+        DoEvents(s);
+        Warten(s, 1000);
+        return;
+    }
+    STERNKARTE(s);
+    Portalname(s, t);
+    Cursor(s, t, WEISS);
+    s.TasteDa = 0;
+    for (;;) {
+        s.plattform->schlafen(5);
+        DoEvents(s);
+        if (s.TasteDa == 0) continue;
+        const int c = s.TastenCode;
+        if (c == Taste::Esc) return;
+        if (c == Taste::Enter) break;
+        if (c == Taste::Hoch || c == Taste::Runter) {
+            Cursor(s, t, SCHWARZ);
+            do {
+                if (c == Taste::Hoch) {
+                    if (++t > letzter) t = 3;
+                } else {
+                    if (--t == 2) t = letzter;
+                }
+            } while (!Portalziel(s, t, schiff));
+            Portalname(s, t);
+            Cursor(s, t, WEISS);
+        }
+        s.TasteDa = 0;
+    }
+    Schiff& sch = s.Schiffe(schiff);
+    sch.StartPlanet = static_cast<Integer>(-sch.Planet);
+    sch.Planet = static_cast<Integer>(t);
+    sch.Dauer = 1;
+    sch.Zustand = 1;
+    PartnerMitnehmen(s, schiff);
+}
+
+void ORDER_NOTRUF(Spiel& s, int schiff) {
+    Schiff& sch = s.Schiffe(schiff);
+    std::swap(sch.Planet, sch.StartPlanet);
+    sch.Dauer = static_cast<Integer>(ENTFERNUNG(s, sch.StartPlanet, sch.Planet) - sch.Dauer);
+    if (sch.Dauer == 0) sch.Zustand = 0;
+    PartnerMitnehmen(s, schiff);
+    TEXT_AUSGEBEN(s, "Notruf erhalten. Schiff kehrt um!", 15, 50, 660, WEISS);
+    SCHIFF_ANZEIGEN(s, schiff);
+    DoEvents(s);
+    Warten(s, 1000);
+}

@@ -1,0 +1,260 @@
+// Choosing a ship, the order menu and the travel orders.
+#include "flow/routinen.h"
+#include "hilfe.h"
+#include "orders/anweisen.h"
+#include "orders/reisen.h"
+#include "state/sterne.h"
+#include "screen/ausgabe.h"
+#include "state/text.h"
+#include "year/meldung.h"
+
+namespace {
+
+// A small galaxy by hand: systems 1..5 in a row to the right of Sol.
+struct Galaxie : TestSpiel {
+    explicit Galaxie(const std::string& skript = "") : TestSpiel(skript) {
+        s->AnzahlPlaneten = 50;
+        s->HoechstesSchiff = 10;
+        const char* namen[] = {"Atair ", "Beteigeuze ", "Capella ", "Deneb ", "Wega "};
+        for (int sys = 1; sys <= 5; ++sys)
+            for (int k = 1; k <= 10; ++k) {
+                Planet& p = s->Dokument(10 * sys + k);
+                p.Name = namen[sys - 1];
+                p.X = static_cast<Integer>(20 * sys);
+                p.Y = static_cast<Integer>(sys == 3 ? -30 : 0);
+                p.Ware = static_cast<Integer>(sys);
+            }
+        s->Dokument(3).Name = "Sol ";
+    }
+    Schiff& schiff(int nr, const char* typ, int planet = 3, int besitzer = 1) {
+        Schiff& sch = s->Schiffe(nr);
+        sch.Typ = typ;
+        sch.Name = "Schiff";
+        sch.Planet = static_cast<Integer>(planet);
+        sch.Besitzer = static_cast<Integer>(besitzer);
+        sch.Tankgroesse = 30;
+        sch.Treibstoff = 30;
+        sch.Laderaum = std::string(typ) == "SST " ? 10 : 0;
+        return sch;
+    }
+    std::vector<std::string> menue(int nr) {
+        std::vector<std::string> r;
+        for (const auto& t : ANWEISUNGEN(*s, nr))
+            if (!t.empty()) r.push_back(Utf8(Trim(t)));
+        return r;
+    }
+};
+
+using Menue = std::vector<std::string>;
+
+}  // namespace
+
+TEST(Anweisungen, FrachterNachOrtUndLage) {
+    Galaxie g;
+    Schiff& f = g.schiff(1, "SST ");
+    EXPECT_EQ(g.menue(1), (Menue{"Start"})) << "full tank on Sol III, no invention";
+    f.Treibstoff = 12;
+    EXPECT_EQ(g.menue(1), (Menue{"Start", "Betanken"}));
+    f.Planet = 23;
+    g.s->Dokument(23).Bestand = 150;
+    EXPECT_EQ(g.menue(1), (Menue{"Start", "Beladen"}));
+    g.s->Schiffe(PIRATEN_HQ).Planet = 23;
+    EXPECT_EQ(g.menue(1), (Menue{"Start"})) << "nobody loads at the pirates' headquarters";
+    g.s->Schiffe(PIRATEN_HQ).Planet = 0;
+    f.Partner = 5;
+    EXPECT_EQ(g.menue(1), (Menue{"Start"})) << "a freighter with a station does not load";
+    f.Partner = 0;
+    f.Ladung = 10;
+    EXPECT_EQ(g.menue(1), (Menue{"Start"})) << "a full hold";
+    g.s->Dokument(23).Portal = -1;
+    g.s->Schiffe(HAENDLER_ERSTES + 2).Planet = 23;
+    EXPECT_EQ(g.menue(1), (Menue{"Start", "Teleportieren", "Handeln"}));
+    f.Zustand = 1;
+    f.StartPlanet = 3;
+    EXPECT_EQ(g.menue(1), (Menue{"Notruf"}));
+    f.StartPlanet = -3;
+    EXPECT_TRUE(g.menue(1).empty()) << "a teleport cannot be called back";
+    f.Zustand = 0;
+    f.Fracht(22) = 1;
+    f.Schaden = 10;
+    f.Fracht(24) = 2;
+    EXPECT_EQ(g.menue(1), (Menue{"Start", "Teleportieren", "Handeln", "Reparatur", "Gerät ausliefern"}));
+}
+
+TEST(Anweisungen, AndereTypen) {
+    Galaxie g;
+    Schiff& k = g.schiff(2, "FSS ", 33);
+    EXPECT_EQ(g.menue(2), (Menue{"Start"})) << "a cruiser with no enemy";
+    g.schiff(4, "SST ", 33, 2);
+    EXPECT_EQ(g.menue(2), (Menue{"Start", "Angriff"}));
+    EXPECT_EQ(ANWEISUNGEN(*g.s, 2)[12], "Angriff            ");
+    k.Zustand = 2;
+    EXPECT_EQ(g.menue(2), (Menue{"Angriff beenden"}));
+
+    Schiff& st = g.schiff(5, "TSR ", 3);
+    st.Laderaum = 90;
+    EXPECT_TRUE(g.menue(5).empty()) << "a station never starts";
+    g.schiff(6, "XXL ", 3);
+    EXPECT_TRUE(g.menue(5).empty()) << "only a Frachter can take a station in tow";
+    g.schiff(7, "SST ", 3);
+    EXPECT_EQ(g.menue(5), (Menue{"Ankoppeln"}));
+    g.s->Forschung(3, 1) = -1;  // repair sets on sale
+    EXPECT_EQ(g.menue(5), (Menue{"Beladen", "Ankoppeln"}));
+
+    Schiff& t = g.schiff(8, "TST ", 3);
+    t.Laderaum = 10;
+    g.s->Forschung(3, 1) = 0;
+    EXPECT_EQ(g.menue(8), (Menue{"Start", "Beladen"}));
+    t.Planet = 41;
+    EXPECT_EQ(g.menue(8), (Menue{"Start"}));
+    Schiff& fern = g.schiff(9, "TSR ", 41, 3);
+    fern.Fracht(21) = 5;
+    t.Treibstoff = 3;
+    EXPECT_EQ(g.menue(8), (Menue{"Start", "Beladen", "Betanken"})) << "a station with fuel, of any owner";
+
+    Schiff& x = g.schiff(10, " XS ", 3);
+    x.Zustand = -2;
+    EXPECT_TRUE(g.menue(10).empty());
+}
+
+TEST(Reisen, StartMitBuchstabenUndPfeilenDannNotruf) {
+    // W finds "Wega", Down goes to Wega's planet 50's neighbour 49... Up back, Enter.
+    Galaxie g("key W\nkey UP\nkey UP\nkey ENTER");
+    Schiff& f = g.schiff(1, "SST ");
+    g.laufen([](Spiel& s) { ORDER_START(s, 1); });
+    EXPECT_EQ(f.Zustand, 1);
+    EXPECT_EQ(f.StartPlanet, 3);
+    EXPECT_EQ(f.Planet, 53);
+    EXPECT_EQ(f.Dauer, ENTFERNUNG(*g.s, 3, 53));
+    EXPECT_EQ(g.textBei(50, 690), "Entfernung: " + Space(4 - static_cast<int>(Str(f.Dauer).size())) + std::to_string(f.Dauer));
+
+    g.laufen([](Spiel& s) { ORDER_NOTRUF(s, 1); });
+    EXPECT_EQ(f.Zustand, 0) << "called back before it moved";
+    EXPECT_EQ(f.Planet, 3);
+    EXPECT_EQ(f.Dauer, 0);
+
+    f.Zustand = 1;
+    f.StartPlanet = 3;
+    f.Planet = 53;
+    f.Dauer = 6;  // 4 of 10 units flown
+    g.s->Dokument(3).Abstand = 0;
+    const int ganz = ENTFERNUNG(*g.s, 3, 53);
+    g.laufen([](Spiel& s) { ORDER_NOTRUF(s, 1); });
+    EXPECT_EQ(f.Planet, 3);
+    EXPECT_EQ(f.StartPlanet, 53);
+    EXPECT_EQ(f.Dauer, ganz - 6);
+}
+
+TEST(Reisen, ZielWaehlenTasten) {
+    auto ziel = [](const std::string& skript, int start = 3) {
+        Galaxie g(skript + "\nkey ENTER");
+        g.schiff(1, "SST ", start);
+        g.laufen([](Spiel& s) { ZIEL_WAEHLEN(s, 1); });
+        return g.s->Eingabe;
+    };
+    EXPECT_EQ(ziel("key UP"), 11);
+    EXPECT_EQ(ziel("key UP\nkey DOWN\nkey DOWN"), 3) << "down from 11 passes 10 to Sol III";
+    EXPECT_EQ(ziel("key DOWN"), 60);
+    EXPECT_EQ(ziel("key TAB"), 11);
+    EXPECT_EQ(ziel("key TAB", 47), 11) << "the last star cannot be reached by Tab";
+    EXPECT_EQ(ziel("key TAB", 35), 41);
+    EXPECT_EQ(ziel("key PERIOD", 35), 3);
+    EXPECT_EQ(ziel("key C"), 31);
+    EXPECT_EQ(ziel("key Q"), 3) << "no star begins with Q";
+    EXPECT_EQ(ziel("key SPACE\nkey RIGHT"), 11) << "the nearest star to the right";
+    EXPECT_EQ(ziel("key SPACE\nkey RIGHT\nkey RIGHT\nkey RIGHT"), 41) << "Capella lies above the row";
+    EXPECT_EQ(ziel("key SPACE\nkey UP"), 3) << "Capella lies more to the side than above Sol";
+    EXPECT_EQ(ziel("key SPACE\nkey UP", 22), 31);
+    EXPECT_EQ(ziel("key SPACE\nkey DOWN"), 3) << "nothing below: the cursor stays";
+    EXPECT_EQ(ziel("key SPACE\nkey LEFT", 22), 11);
+    EXPECT_EQ(ziel("key SPACE\nkey LEFT", 12), 3) << "Sol counts as a candidate";
+    EXPECT_EQ(ziel("key ESC"), -1);
+}
+
+TEST(Reisen, TeleportierenZwischenPortalen) {
+    Galaxie g("key UP\nkey ENTER");
+    g.s->Dokument(3).Portal = -1;
+    g.s->Dokument(44).Portal = -1;
+    Schiff& f = g.schiff(1, "SST ", 3);
+    f.Partner = 5;
+    g.schiff(5, "TSR ", 3).Zustand = 10;
+    g.laufen([](Spiel& s) { ORDER_TELEPORTIEREN(s, 1); });
+    EXPECT_EQ(f.Planet, 44) << "Up keeps the cursor on the only other portal";
+    EXPECT_EQ(f.StartPlanet, -3);
+    EXPECT_EQ(f.Dauer, 1);
+    EXPECT_EQ(f.Zustand, 1);
+    EXPECT_EQ(g.s->Schiffe(5).Planet, 44) << "the station goes along";
+    EXPECT_EQ(g.s->Schiffe(5).Zustand, 10);
+
+    Galaxie h;
+    h.schiff(1, "SST ", 3);
+    h.s->Dokument(3).Portal = -1;
+    h.p->spurAufzeichnen(true);
+    h.laufen([](Spiel& s) { ORDER_TELEPORTIEREN(s, 1); });
+    EXPECT_NE(h.p->spur().find("Kein weiteres Portal vorhanden!"), std::string::npos);
+}
+
+TEST(Anweisen, SchiffWaehlenMitTastenUndNummer) {
+    auto gewaehlt = [](const std::string& skript, int letztes = 0) {
+        Galaxie g(skript + "\nkey ESC");
+        for (int i : {2, 5, 9}) g.schiff(i, "SST ");
+        g.schiff(4, "SST ", 3, 2);
+        g.s->HoechstesSchiff = 12;
+        g.s->LetztesSchiff = static_cast<Integer>(letztes);
+        g.laufen([](Spiel& s) { SCHIFFE_ANWEISEN(s); });
+        return g.s->LetztesSchiff;
+    };
+    EXPECT_EQ(gewaehlt("key ENTER"), 2) << "the lowest ship first";
+    EXPECT_EQ(gewaehlt("key UP\nkey ENTER"), 5);
+    EXPECT_EQ(gewaehlt("key DOWN\nkey ENTER"), 9) << "round to the highest";
+    EXPECT_EQ(gewaehlt("key UP\nkey ENTER", 9), 2);
+    EXPECT_EQ(gewaehlt("key PGUP\nkey ENTER", 5), 2) << "16 is above 12: from slot 1";
+    EXPECT_EQ(gewaehlt("key SPACE\nkey 6\nkey ENTER\nkey ENTER"), 9);
+    EXPECT_EQ(gewaehlt("key SPACE\nkey 0\nkey ENTER\nkey ENTER", 9), 2);
+    EXPECT_EQ(gewaehlt("key ESC", 5), 5) << "Esc gives no order";
+
+    Galaxie leer("key ENTER");
+    leer.p->spurAufzeichnen(true);
+    leer.laufen([](Spiel& s) { SCHIFFE_ANWEISEN(s); });
+    EXPECT_EQ(leer.p->spur().find("Bitte Raumschiff"), std::string::npos) << "no ships: no prompt";
+
+    Galaxie werft("key ENTER");
+    werft.schiff(3, "SST ").Zustand = -1;
+    werft.p->spurAufzeichnen(true);
+    werft.laufen([](Spiel& s) { SCHIFFE_ANWEISEN(s); });
+    EXPECT_NE(werft.p->spur().find("Raumschiff ist in der Werft!"), std::string::npos);
+}
+
+TEST(Meldung, SchiffUndPlanetAusDerZeile) {
+    bool da = false;
+    EXPECT_EQ(SCHIFF_IN_MELDUNG("SST 12 landet auf Wega III", true, da), 12);
+    EXPECT_TRUE(da);
+    EXPECT_EQ(SCHIFF_IN_MELDUNG("FSS 3 greift TST 17 an", true, da), 17) << "by code order, not position";
+    EXPECT_EQ(SCHIFF_IN_MELDUNG(" XS 8 landet auf Deneb I", true, da), 8);
+    EXPECT_EQ(SCHIFF_IN_MELDUNG(" XS 8 landet auf Deneb I", false, da), 0);
+    EXPECT_FALSE(da) << "no scout links on a paged list";
+    EXPECT_EQ(SCHIFF_IN_MELDUNG(T("Hauptquartier zerstört von FSS 5"), true, da), 0);
+    EXPECT_TRUE(da);
+    EXPECT_EQ(SCHIFF_IN_MELDUNG("Wega II produziert 12t Getreide", true, da), 0);
+    EXPECT_FALSE(da);
+}
+
+TEST(Meldung, KlickAufEineZeileOeffnetDasSchiff) {
+    // A news line names the player's ship; a click on it in the main menu opens the order dialog on it.
+    Galaxie g("click 600 260\nkey ESC\nkey ESC");
+    g.schiff(2, "SST ");
+    g.schiff(6, "SST ", 21).Treibstoff = 10;
+    g.s->MeldungAnzahl = 2;
+    g.s->MeldungText(1) = "SST 6 landet auf Atair I";
+    g.s->MeldungFarbe(1) = CYAN;
+    g.s->MeldungText(2) = "Atair II produziert";
+    g.s->MeldungPlanet(2) = 12;
+    g.p->spurAufzeichnen(true);
+    g.laufen([](Spiel& s) {
+        HAUPTBILDSCHIRM(s, true);
+        SPIELSCHLEIFE(s);
+    });
+    EXPECT_EQ(g.s->LetztesSchiff, 6);
+    EXPECT_NE(g.p->spur().find("print 30 110 15 16711935 Schiff   SST  6"), std::string::npos);
+    EXPECT_NE(g.p->spur().find("Anweisung:"), std::string::npos);
+}
