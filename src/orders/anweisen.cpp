@@ -1,6 +1,7 @@
 #include "orders/anweisen.h"
 
 #include "flow/routinen.h"
+#include "orders/fracht.h"
 #include "orders/reisen.h"
 #include "screen/ausgabe.h"
 #include "state/text.h"
@@ -9,9 +10,9 @@
 namespace {
 
 enum Platz {
-    START = 1, TELEPORTIEREN, BELADEN_STATION, BELADEN_PLANET, BELADEN_AUSRUESTUNG, BELADEN_TANKER,
-    BETANKEN_SOL, BETANKEN_STATION, ENTLADEN, ANKOPPELN, TRENNEN, ANGRIFF, ANGRIFF_BEENDEN, NOTRUF,
-    HANDELN, REPARATUR, GERAET_AUSLIEFERN, PORTAL_INSTALLIEREN
+    P_START = 1, P_TELEPORTIEREN, P_BELADEN_STATION, P_BELADEN_PLANET, P_BELADEN_AUSRUESTUNG, P_BELADEN_TANKER,
+    P_BETANKEN_SOL, P_BETANKEN_STATION, P_ENTLADEN, P_ANKOPPELN, P_TRENNEN, P_ANGRIFF, P_ANGRIFF_BEENDEN, P_NOTRUF,
+    P_HANDELN, P_REPARATUR, P_GERAET_AUSLIEFERN, P_PORTAL_INSTALLIEREN
 };
 
 bool Erfunden(const Spiel& s, int k) { return s.Forschung(k, s.AktSpieler) == -1; }
@@ -52,49 +53,49 @@ std::vector<std::string> ANWEISUNGEN(const Spiel& s, int nr) {
     const std::string& typ = sch.Typ;
     const bool haendler = typ == "SST " || typ == "XXL ";
 
-    if (typ != "TSR " && sch.Zustand == 0) l[START] = "Start              ";
-    if (sch.Zustand == 0 && pl.Portal == -1 && typ != "TSR ") l[TELEPORTIEREN] = "Teleportieren      ";
+    if (typ != "TSR " && sch.Zustand == 0) l[P_START] = "Start              ";
+    if (sch.Zustand == 0 && pl.Portal == -1 && typ != "TSR ") l[P_TELEPORTIEREN] = "Teleportieren      ";
     const bool a = haendler && sch.Zustand == 0 && p > 3 && sch.Ladung < sch.Laderaum && sch.Partner == 0 &&
                    p != s.Schiffe(PIRATEN_HQ).Planet;
     if (a) {
-        if (StationHier(s, p, [](const Schiff& st) { return st.Ladung > 0; })) l[BELADEN_STATION] = "Beladen            ";
-        if (pl.Bestand >= 100) l[BELADEN_PLANET] = "Beladen            ";
+        if (StationHier(s, p, [](const Schiff& st) { return st.Ladung > 0; })) l[P_BELADEN_STATION] = "Beladen            ";
+        if (pl.Bestand >= 100) l[P_BELADEN_PLANET] = "Beladen            ";
     }
     // Equipment on Sol III: larger holds, the great tank, the repair set.
     const bool ersteDrei = haendler && sch.Zustand == 0 && p > 3;
     if (haendler && !ersteDrei && sch.Partner == 0 && p == 3 && sch.Zustand == 0) {
-        if (sch.Ladung + 1 < sch.Laderaum && Erfunden(s, 8)) l[BELADEN_AUSRUESTUNG] = "Beladen           ";
-        else if (Erfunden(s, 11) && sch.Ladung == 0 && sch.Laderaum >= 100) l[BELADEN_AUSRUESTUNG] = "Beladen            ";
+        if (sch.Ladung + 1 < sch.Laderaum && Erfunden(s, 8)) l[P_BELADEN_AUSRUESTUNG] = "Beladen           ";
+        else if (Erfunden(s, 11) && sch.Ladung == 0 && sch.Laderaum >= 100) l[P_BELADEN_AUSRUESTUNG] = "Beladen            ";
     }
     if (typ != "TST " && p == 3 && (sch.Zustand == 0 || sch.Zustand == 10) && Erfunden(s, 3) && sch.Fracht(22) == 0)
-        l[BELADEN_AUSRUESTUNG] = "Beladen           ";
+        l[P_BELADEN_AUSRUESTUNG] = "Beladen           ";
     if (typ == "TST " && sch.Zustand == 0) {
         const bool stationMitTank =
             StationHier(s, p, [](const Schiff& st) { return st.Fracht(21) + st.Fracht(23) > 0; });
         if ((p == 3 && sch.Ladung < sch.Laderaum) || (p == 3 && sch.Fracht(22) == 0) ||
             (sch.Ladung < sch.Laderaum && stationMitTank))
-            l[BELADEN_TANKER] = "Beladen           ";
+            l[P_BELADEN_TANKER] = "Beladen           ";
     }
-    if (sch.Treibstoff < sch.Tankgroesse && sch.Zustand == 0 && p == 3) l[BETANKEN_SOL] = "Betanken          ";
+    if (sch.Treibstoff < sch.Tankgroesse && sch.Zustand == 0 && p == 3) l[P_BETANKEN_SOL] = "Betanken          ";
     if (sch.Treibstoff < sch.Tankgroesse && sch.Zustand == 0 && p != 3 &&
         StationHier(s, p, [](const Schiff& st) { return st.Fracht(21) + st.Fracht(23) > 0; }))
-        l[BETANKEN_STATION] = "Betanken           ";
+        l[P_BETANKEN_STATION] = "Betanken           ";
     if (typ != "TSR " && sch.Fracht(25) == 0 && sch.Zustand == 0 && sch.Ladung > 0 &&
         StationHier(s, p, [](const Schiff& st) { return st.Ladung < st.Laderaum; }))
-        l[ENTLADEN] = "Entladen          ";
+        l[P_ENTLADEN] = "Entladen          ";
     if (typ == "TSR " && sch.Zustand == 0) {
         for (int t = 1; t <= s.HoechstesSchiff; ++t) {
             const Schiff& f = s.Schiffe(t);
             if (f.Besitzer == s.AktSpieler && f.Typ == "SST " && f.Zustand == 0 && f.Planet == p && f.Ladung == 0 &&
                 f.Partner == 0) {
-                l[ANKOPPELN] = "Ankoppeln          ";
+                l[P_ANKOPPELN] = "Ankoppeln          ";
                 break;
             }
         }
     }
     if (typ == "TSR " && sch.Zustand == 10 && sch.Partner >= 1 && sch.Partner <= MAX_SCHIFFE &&
         s.Schiffe(sch.Partner).Zustand == 0)
-        l[TRENNEN] = "Trennen            ";
+        l[P_TRENNEN] = "Trennen            ";
     if (typ == "FSS " && sch.Zustand == 0 && p > 3) {
         bool ziel = p == s.Schiffe(PIRATEN_HQ).Planet;
         for (int t = 1; t <= s.HoechstesSchiff && !ziel; ++t) {
@@ -103,20 +104,20 @@ std::vector<std::string> ANWEISUNGEN(const Spiel& s, int nr) {
             const bool partnerRuht = g.Partner >= 1 && g.Partner <= MAX_SCHIFFE && s.Schiffe(g.Partner).Zustand == 0;
             ziel = g.Zustand == 0 || g.Zustand == 2 || (g.Zustand == 10 && partnerRuht);
         }
-        if (ziel) l[ANGRIFF] = p == s.Schiffe(PIRATEN_HQ).Planet ? "Angriff           " : "Angriff            ";
+        if (ziel) l[P_ANGRIFF] = p == s.Schiffe(PIRATEN_HQ).Planet ? "Angriff           " : "Angriff            ";
     }
-    if (sch.Zustand == 2) l[ANGRIFF_BEENDEN] = "Angriff beenden    ";
-    if (sch.Zustand == 1 && sch.StartPlanet >= 0) l[NOTRUF] = "Notruf             ";
+    if (sch.Zustand == 2) l[P_ANGRIFF_BEENDEN] = "Angriff beenden    ";
+    if (sch.Zustand == 1 && sch.StartPlanet >= 0) l[P_NOTRUF] = "Notruf             ";
     if (sch.Zustand == 0 && sch.Partner == 0 && haendler) {
         for (int h = HAENDLER_ERSTES; h <= HAENDLER_LETZTES; ++h)
             if (s.Schiffe(h).Planet == p && s.Schiffe(h).Zustand == 0) {
-                l[HANDELN] = "Handeln            ";
+                l[P_HANDELN] = "Handeln            ";
                 break;
             }
     }
-    if (sch.Fracht(22) == 1 && sch.Schaden > 0 && sch.Zustand == 0) l[REPARATUR] = "Reparatur          ";
-    if (sch.Fracht(24) > 0 && sch.Zustand == 0 && p > 3) l[GERAET_AUSLIEFERN] = T("Gerät ausliefern   ");
-    if (sch.Fracht(25) == 1 && sch.Zustand == 0 && p > 3 && pl.Portal == 0) l[PORTAL_INSTALLIEREN] = "Portal installieren";
+    if (sch.Fracht(22) == 1 && sch.Schaden > 0 && sch.Zustand == 0) l[P_REPARATUR] = "Reparatur          ";
+    if (sch.Fracht(24) > 0 && sch.Zustand == 0 && p > 3) l[P_GERAET_AUSLIEFERN] = T("Gerät ausliefern   ");
+    if (sch.Fracht(25) == 1 && sch.Zustand == 0 && p > 3 && pl.Portal == 0) l[P_PORTAL_INSTALLIEREN] = "Portal installieren";
     return l;
 }
 
@@ -224,13 +225,26 @@ void SCHIFFE_ANWEISEN(Spiel& s) {
     }
 
     TEXT_AUSGEBEN(s, "Anweisung:                         ", 15, 50, 630, WEISS);
-    Long vorgabe = 1;
     if (s.AuswahlTasten.size() < 2) s.AuswahlTasten = {"", "*"};
-    AUSWAHL(s, liste, von, bis, 200, 630, 15, WEISS, vorgabe, s.AuswahlTasten);
-    switch (s.Eingabe) {
-        case START: ORDER_START(s, nr); break;
-        case TELEPORTIEREN: ORDER_TELEPORTIEREN(s, nr); break;
-        case NOTRUF: ORDER_NOTRUF(s, nr); break;
-        default: break;  // cargo, attack and special orders come with their own work
+    for (;;) {
+        Long vorgabe = 1;
+        AUSWAHL(s, liste, von, bis, 200, 630, 15, WEISS, vorgabe, s.AuswahlTasten);
+        Ausgang a = Ausgang::Ende;
+        switch (s.Eingabe) {
+            case P_START: ORDER_START(s, nr); break;
+            case P_TELEPORTIEREN: ORDER_TELEPORTIEREN(s, nr); break;
+            case P_BELADEN_STATION: a = BELADEN_VON_STATION(s, nr); break;
+            case P_BELADEN_PLANET: a = BELADEN_VOM_PLANETEN(s, nr); break;
+            case P_BELADEN_AUSRUESTUNG: a = BELADEN_AUSRUESTUNG(s, nr); break;
+            case P_BELADEN_TANKER: a = BELADEN_TANKER(s, nr); break;
+            case P_BETANKEN_SOL: a = BETANKEN_SOL(s, nr); break;
+            case P_BETANKEN_STATION: a = BETANKEN_STATION(s, nr); break;
+            case P_ENTLADEN: a = ENTLADEN(s, nr); break;
+            case P_ANKOPPELN: a = ANKOPPELN(s, nr); break;
+            case P_TRENNEN: a = TRENNEN(s, nr); break;
+            case P_NOTRUF: ORDER_NOTRUF(s, nr); break;
+            default: break;  // attacks and the special orders come with their own work
+        }
+        if (a == Ausgang::Ende) return;
     }
 }

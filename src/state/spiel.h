@@ -149,6 +149,7 @@ struct Spiel {
     Feld<Long, 1, MELDUNGEN_MAX> MeldungPlanet;
     Integer MeldungAnzahl = 0;
     Integer MeldungSeite = 1;
+    Long MeldungenAusgelassen = 0;  // lines of this year that did not fit the table
 
     Feld<std::string, 1, 100> Dateiliste;
     Integer DateiNummer = 0;

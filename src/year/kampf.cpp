@@ -1,0 +1,54 @@
+// Fights and pirates in the year. The fights themselves come with their own
+// work; the clean-up of partners and wrecks is needed by every year already.
+#include "year/jahr.h"
+
+void ANGRIFFE(Spiel&) {}
+void PIRAT_IM_SCHIFFSDURCHLAUF(Spiel&, int) {}
+void ANGRIFFSBERICHT(Spiel&, int) {}
+void HAUPTQUARTIER_FEUER(Spiel&, int) {}
+void SCHIFF_BESCHAEDIGEN(Spiel&, int) {}
+void PIRATEN_ZIEHEN(Spiel&) {}
+void NEUE_PIRATEN(Spiel&) {}
+
+void PARTNER_PRUEFEN(Spiel& s) {
+    for (int i = 1; i <= s.HoechstesSchiff; ++i) {
+        Schiff& sch = s.Schiffe(i);
+        if (sch.Typ == "SST " || sch.Partner <= 0 || sch.Typ.empty()) continue;
+        if (sch.Partner <= MAX_SCHIFFE) {
+            const Schiff& p = s.Schiffe(sch.Partner);
+            if (p.Besitzer != 0 && p.Planet == sch.Planet) continue;
+        }
+        sch.Partner = 0;
+        if (!(sch.Besitzer == 7 && sch.Zustand == 1)) sch.Zustand = 0;
+    }
+}
+
+void ZERSTOERTE_ENTFERNEN(Spiel& s) {
+    for (int i = 1; i <= s.HoechstesSchiff; ++i) {
+        Schiff& sch = s.Schiffe(i);
+        if (sch.Schaden <= 99 || sch.Besitzer <= 0) continue;
+        const bool pirat = sch.Besitzer == 7;
+        if (sch.Partner > 0 && sch.Partner <= MAX_SCHIFFE && sch.Zustand != 2) {
+            Schiff& p = s.Schiffe(sch.Partner);
+            if (sch.Zustand == 1) {
+                SCHIFF_ENTFERNEN(s, sch.Partner);
+                p.Partner = 0;
+                if (s.AnzahlSpieler == 1 && !pirat) s.Statistik(13, 2) += 1;
+            } else if (sch.Typ == "SST ") {
+                p.Planet = sch.Planet;
+                p.Partner = 0;
+                p.Zustand = 0;
+            } else {
+                p.Partner = 0;
+            }
+        }
+        SCHIFF_ENTFERNEN(s, i);
+        sch.Partner = 0;
+        if (s.AnzahlSpieler == 1 && !pirat) s.Statistik(13, 2) += 1;
+        for (int k = 1; k <= s.HoechstesSchiff; ++k)
+            if (s.Schiffe(k).Partner == i && s.Schiffe(k).Zustand == 2) {
+                s.Schiffe(k).Zustand = 0;
+                s.Schiffe(k).Partner = 0;
+            }
+    }
+}
