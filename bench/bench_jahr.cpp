@@ -1,0 +1,30 @@
+// One year of the largest world, printed on the headless platform.
+#include <benchmark/benchmark.h>
+
+#include <memory>
+
+#include "flow/routinen.h"
+#include "grosse_welt.h"
+#include "screen/headless/headless_plattform.h"
+
+namespace {
+
+void BM_JahrDerGroesstenWelt(benchmark::State& st) {
+    auto p = std::make_unique<HeadlessPlattform>();
+    std::string fehler;
+    if (!p->schriftBereit(fehler)) {
+        st.SkipWithError(fehler.c_str());
+        return;
+    }
+    auto s = std::make_unique<Spiel>();
+    s->plattform = p.get();
+    s->ProgrammVerzeichnis = QUORVANT_DATEN_STANDARD;
+    if (!GrosseWeltBauen(*s, 1234)) {
+        st.SkipWithError("Planetenliste.bin fehlt");
+        return;
+    }
+    for (auto _ : st) RUNDE_AUSFUEHREN(*s);
+}
+BENCHMARK(BM_JahrDerGroesstenWelt)->Unit(benchmark::kMillisecond);
+
+}  // namespace
