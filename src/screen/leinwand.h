@@ -42,9 +42,20 @@ public:
     const uint32_t* pixel() const { return pix_.data(); }  // 0xAARRGGBB, row after row
     uint32_t pixelAn(int x, int y) const { return pix_[static_cast<size_t>(y) * BREITE + x]; }
     bool pngSchreiben(const std::string& pfad, std::string& fehler) const;
+    // For a box laid over the picture for a while: take the pixels, put them back.
+    std::vector<uint32_t> kopie() const { return pix_; }
+    void zurueckholen(const std::vector<uint32_t>& p) {
+        if (p.size() == pix_.size()) pix_ = p;
+    }
 
 private:
     struct Schrift;
+    struct Groesse;
+    // Metrics and glyphs of one size; made on first use.
+    Groesse* groesse(int g) const;
+    void punkt(int x, int y, uint32_t c);  // clipped
+    void strecke(int x1, int x2, int y, uint32_t c);  // one row, clipped
+    void stift(int x, int y, uint32_t c, int breite);  // the pen: breite x breite
     std::vector<uint32_t> pix_;
     std::unique_ptr<Schrift> schrift_;
     struct Bild {

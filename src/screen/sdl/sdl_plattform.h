@@ -1,0 +1,72 @@
+#pragma once
+// The game window: SDL2 shows the canvas, gathers keys and clicks, shows the
+// message boxes and plays the music through SDL_mixer.
+#include <cstdint>
+#include <deque>
+#include <string>
+
+#include "screen/leinwand.h"
+#include "screen/plattform.h"
+
+struct SDL_Window;
+struct SDL_Renderer;
+struct SDL_Texture;
+union SDL_Event;
+struct _Mix_Music;
+
+class SdlPlattform : public Plattform {
+public:
+    SdlPlattform();
+    ~SdlPlattform() override;
+    SdlPlattform(const SdlPlattform&) = delete;
+    SdlPlattform& operator=(const SdlPlattform&) = delete;
+
+    // Opens the window and the font. On failure false with a German message.
+    bool starten(std::string& fehler);
+    Leinwand& leinwand() { return leinwand_; }
+
+    // Plattform
+    void leeren() override;
+    void titelSetzen(const std::string& cp1252) override;
+    void text(const std::string& cp1252, int groesse, int x, int y, Farbe f) override;
+    void textMessen(const std::string& cp1252, int groesse, int& breite, int& hoehe) override;
+    void linie(int x1, int y1, int x2, int y2, Farbe f, int breite) override;
+    void rahmen(int x1, int y1, int x2, int y2, Farbe f, int breite) override;
+    void box(int x1, int y1, int x2, int y2, Farbe f) override;
+    void kreis(int cx, int cy, int r, Farbe f, bool gefuellt, int breite) override;
+    void bild(const std::string& schluessel, int x, int y) override;
+    void schlafen(int ms) override;
+    void pumpen() override;
+    bool ereignisHolen(Ereignis& e) override;
+    long long uhrMs() override;
+    uint32_t saat() override;
+    bool frage(const std::string& titel, const std::string& text) override;
+    void meldung(const std::string& titel, const std::string& text, BoxArt art) override;
+    bool musikSpielen(const std::string& pfad) override;
+    void musikStoppen() override;
+
+private:
+    void verarbeiten(const SDL_Event& ev);       // one SDL event into the queue
+    void zeigen(bool sofort);                    // the canvas to the window when due
+    void vollbildUmschalten();
+    // 1 yes/OK, 0 no, -1 no SDL box possible.
+    int sdlBox(const std::string& titel, const std::string& text, BoxArt art, bool frage);
+    bool gemalteBox(const std::string& titel, const std::string& text, bool frage);
+    bool tonBereit();
+
+    Leinwand leinwand_;
+    SDL_Window* fenster_ = nullptr;
+    SDL_Renderer* renderer_ = nullptr;
+    SDL_Texture* textur_ = nullptr;
+    bool videoAn_ = false;
+    bool geaendert_ = true;
+    bool zeigenErzwingen_ = false;
+    long long letztesZeigen_ = -1000;
+    bool sdlBoxGeht_ = true;
+    std::deque<Ereignis> warteschlange_;
+    std::string titel_ = "Quorvant";
+
+    bool tonVersucht_ = false;
+    bool tonAn_ = false;
+    _Mix_Music* musik_ = nullptr;
+};
