@@ -39,7 +39,8 @@ std::string TestSpiel::textBei(int x, int y) const {
 }
 
 std::string NeuesSpielSkript(int spieler, int kapital, const std::vector<std::string>& namen, bool zeitlimit) {
-    std::string k = "key SPACE\nkey ENTER\n";
+    // The scroller takes input in each of its three steps: a pause lets it finish.
+    std::string k = "key SPACE\nwait 200\nkey ENTER\n";
     k += "key " + std::to_string(spieler) + "\nkey ENTER\nkey ENTER\nkey ENTER\n";
     k += zeitlimit ? "key J\nkey ENTER\n" : "key ENTER\n";
     k += "type " + std::to_string(kapital) + "\nkey ENTER\n";

@@ -118,14 +118,14 @@ TEST(Anweisungen, AndereTypen) {
 }
 
 TEST(Reisen, StartMitBuchstabenUndPfeilenDannNotruf) {
-    // W finds "Wega", Down goes to Wega's planet 50's neighbour 49... Up back, Enter.
-    Galaxie g("key W\nkey UP\nkey UP\nkey ENTER");
+    // D finds Deneb, two steps up its planets, Enter.
+    Galaxie g("key D\nkey UP\nkey UP\nkey ENTER");
     Schiff& f = g.schiff(1, "SST ");
     g.laufen([](Spiel& s) { ORDER_START(s, 1); });
     EXPECT_EQ(f.Zustand, 1);
     EXPECT_EQ(f.StartPlanet, 3);
-    EXPECT_EQ(f.Planet, 53);
-    EXPECT_EQ(f.Dauer, ENTFERNUNG(*g.s, 3, 53));
+    EXPECT_EQ(f.Planet, 43);
+    EXPECT_EQ(f.Dauer, ENTFERNUNG(*g.s, 3, 43));
     EXPECT_EQ(g.textBei(50, 690), "Entfernung: " + Space(4 - static_cast<int>(Str(f.Dauer).size())) + std::to_string(f.Dauer));
 
     g.laufen([](Spiel& s) { ORDER_NOTRUF(s, 1); });
@@ -135,13 +135,13 @@ TEST(Reisen, StartMitBuchstabenUndPfeilenDannNotruf) {
 
     f.Zustand = 1;
     f.StartPlanet = 3;
-    f.Planet = 53;
+    f.Planet = 43;
     f.Dauer = 6;  // 4 of 10 units flown
     g.s->Dokument(3).Abstand = 0;
-    const int ganz = ENTFERNUNG(*g.s, 3, 53);
+    const int ganz = ENTFERNUNG(*g.s, 3, 43);
     g.laufen([](Spiel& s) { ORDER_NOTRUF(s, 1); });
     EXPECT_EQ(f.Planet, 3);
-    EXPECT_EQ(f.StartPlanet, 53);
+    EXPECT_EQ(f.StartPlanet, 43);
     EXPECT_EQ(f.Dauer, ganz - 6);
 }
 
@@ -153,7 +153,8 @@ TEST(Reisen, ZielWaehlenTasten) {
         return g.s->Eingabe;
     };
     EXPECT_EQ(ziel("key UP"), 11);
-    EXPECT_EQ(ziel("key UP\nkey DOWN\nkey DOWN"), 3) << "down from 11 passes 10 to Sol III";
+    EXPECT_EQ(ziel("key UP\nkey DOWN"), 3) << "down from 11 passes 10 to Sol III";
+    EXPECT_EQ(ziel("key UP\nkey DOWN\nkey DOWN"), 60);
     EXPECT_EQ(ziel("key DOWN"), 60);
     EXPECT_EQ(ziel("key TAB"), 11);
     EXPECT_EQ(ziel("key TAB", 47), 11) << "the last star cannot be reached by Tab";
@@ -161,6 +162,7 @@ TEST(Reisen, ZielWaehlenTasten) {
     EXPECT_EQ(ziel("key PERIOD", 35), 3);
     EXPECT_EQ(ziel("key C"), 31);
     EXPECT_EQ(ziel("key Q"), 3) << "no star begins with Q";
+    EXPECT_EQ(ziel("key W"), 3) << "the last star cannot be reached by a letter";
     EXPECT_EQ(ziel("key SPACE\nkey RIGHT"), 11) << "the nearest star to the right";
     EXPECT_EQ(ziel("key SPACE\nkey RIGHT\nkey RIGHT\nkey RIGHT"), 41) << "Capella lies above the row";
     EXPECT_EQ(ziel("key SPACE\nkey UP"), 3) << "Capella lies more to the side than above Sol";
@@ -229,7 +231,7 @@ TEST(Meldung, SchiffUndPlanetAusDerZeile) {
     bool da = false;
     EXPECT_EQ(SCHIFF_IN_MELDUNG("SST 12 landet auf Wega III", true, da), 12);
     EXPECT_TRUE(da);
-    EXPECT_EQ(SCHIFF_IN_MELDUNG("FSS 3 greift TST 17 an", true, da), 17) << "by code order, not position";
+    EXPECT_EQ(SCHIFF_IN_MELDUNG("FSS 3 greift SST 17 an", true, da), 17) << "by code order, not position";
     EXPECT_EQ(SCHIFF_IN_MELDUNG(" XS 8 landet auf Deneb I", true, da), 8);
     EXPECT_EQ(SCHIFF_IN_MELDUNG(" XS 8 landet auf Deneb I", false, da), 0);
     EXPECT_FALSE(da) << "no scout links on a paged list";

@@ -56,7 +56,7 @@ TEST(Hauptschleife, MenueRundgangMitAussetzen) {
     EXPECT_EQ(r.s->AussetzenJahre, 0);
     EXPECT_EQ(r.s->AktSpieler, 1);
     EXPECT_TRUE(r.gedruckt("Wie oft?"));
-    EXPECT_EQ(r.textBei(30, 50), "Jahr    2004");
+    EXPECT_EQ(r.textBei(30, 50), "RUNDE   2004") << "the year line of the year processing stays";
     EXPECT_EQ(r.textBei(50, 600), "Weiter zum nächsten Jahr   ") << "the loop waits on the first item again";
 }
 
