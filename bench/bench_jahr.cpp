@@ -23,7 +23,15 @@ void BM_JahrDerGroesstenWelt(benchmark::State& st) {
         st.SkipWithError("Planetenliste.bin fehlt");
         return;
     }
-    for (auto _ : st) RUNDE_AUSFUEHREN(*s);
+    // Every year starts from the full world again, so that lost ships do not
+    // make later years cheaper.
+    const Spiel vorlage = *s;
+    for (auto _ : st) {
+        st.PauseTiming();
+        *s = vorlage;
+        st.ResumeTiming();
+        RUNDE_AUSFUEHREN(*s);
+    }
 }
 BENCHMARK(BM_JahrDerGroesstenWelt)->Unit(benchmark::kMillisecond);
 
