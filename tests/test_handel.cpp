@@ -1,0 +1,96 @@
+// A whole trade through the headless driver, and the travel orders seen in
+// the saved state: fly out, land first, buy with M, fly home, unload, sell.
+#include "flow/spielstand.h"
+#include "hilfe.h"
+#include "state/sterne.h"
+#include "state/text.h"
+
+namespace {
+
+Spiel Zustand(const TreiberLauf& lauf) {
+    Spiel s;
+    std::string fehler;
+    EXPECT_TRUE(SPIELSTAND_LESEN(s, lauf.state, fehler)) << fehler << lauf.fehler;
+    return s;
+}
+
+std::string Mal(const std::string& zeile, int n) {
+    std::string r;
+    for (int i = 0; i < n; ++i) r += zeile;
+    return r;
+}
+
+}  // namespace
+
+TEST(Handel, HinKaufenHeimVerkaufen) {
+    const std::string start = NeuesSpielSkript(1, 5000, {"Anna"});
+    const Spiel s0 = Zustand(Treiber(start));
+    // The nearest star that Tab can reach and a full tank can fly there and back.
+    int ziel = 0, tabs = 0, weg = 99;
+    for (int k = 1; k < s0.AnzahlPlaneten / 10; ++k) {
+        const int p = 10 * k + 1;
+        const int e = ENTFERNUNG(s0, SOL_III, p);
+        if (e >= 3 && e <= 14 && e < weg && p != s0.Schiffe(PIRATEN_HQ).Planet) ziel = p, tabs = k, weg = e;
+    }
+    ASSERT_GT(ziel, 0) << "no star near enough for this seed";
+
+    // Out: the order, then one year per distance unit.
+    const std::string hin = start + "key R\nkey ENTER\nkey ENTER\nkey ENTER\n" + Mal("key TAB\n", tabs) + "key ENTER\n";
+    const Spiel s1 = Zustand(Treiber(hin));
+    EXPECT_EQ(s1.Schiffe(1).Zustand, 1);
+    EXPECT_EQ(s1.Schiffe(1).StartPlanet, SOL_III);
+    EXPECT_EQ(s1.Schiffe(1).Planet, ziel);
+    EXPECT_EQ(s1.Schiffe(1).Dauer, weg);
+
+    const std::string gelandet = hin + Mal("key W\nkey ENTER\n", weg);
+    const TreiberLauf l2 = Treiber(gelandet);
+    const Spiel s2 = Zustand(l2);
+    const Planet& p = s2.Dokument(ziel);
+    EXPECT_EQ(s2.Schiffe(1).Zustand, 0);
+    EXPECT_EQ(s2.Bargeld(1), 5000 + 2 * weg) << "the first-landing prize";
+    EXPECT_GE(p.Produktion, 5);
+    EXPECT_LE(p.Produktion, 14);
+    EXPECT_EQ(p.Bestand % 100, 0);
+    EXPECT_EQ(p.Preis >= 3 * p.Ware - 2 && p.Preis <= 3 * p.Ware + 3, true);
+    EXPECT_NE(l2.screen.find(Utf8(T("Erstlandungsprämie: ")) + std::to_string(2 * weg)), std::string::npos) << l2.screen;
+
+    // Buy with M: as much as the stock, the hold and the cash allow.
+    const std::string gekauft = gelandet + "key R\nkey ENTER\nkey ENTER\nkey B\nkey ENTER\nkey M\nkey ENTER\n";
+    const Spiel s3 = Zustand(Treiber(gekauft));
+    const int g = p.Ware;
+    const int m = std::min<int>(p.Bestand / 100, 10);
+    EXPECT_EQ(s3.Schiffe(1).Fracht(g), m);
+    EXPECT_EQ(s3.Schiffe(1).Ladung, m);
+    EXPECT_EQ(s3.Bargeld(1), s2.Bargeld(1) - m * p.Preis);
+    EXPECT_EQ(s3.Dokument(ziel).Bestand, p.Bestand - 100 * m);
+
+    // Home with the period key, unloaded into the storage on landing.
+    const std::string heim = gekauft + "key R\nkey ENTER\nkey ENTER\nkey ENTER\nkey PERIOD\nkey ENTER\n" + Mal("key W\nkey ENTER\n", weg);
+    const Spiel s4 = Zustand(Treiber(heim));
+    EXPECT_EQ(s4.Lager(g, 1), m);
+    EXPECT_EQ(s4.Schiffe(1).Fracht(g), 0);
+    EXPECT_EQ(s4.Schiffe(1).Planet, SOL_III);
+    EXPECT_GE(s4.Schiffe(1).Treibstoff, 0.0f);
+
+    // Sold: cash, storage, statistics, demand and the board.
+    const TreiberLauf l5 = Treiber(heim + "key V\nkey ENTER\nkey ENTER\nkey ENTER\n");
+    const Spiel s5 = Zustand(l5);
+    EXPECT_EQ(s5.Lager(g, 1), 0);
+    EXPECT_EQ(s5.Statistik(g, 1), m);
+    EXPECT_EQ(s5.Bargeld(1), s4.Bargeld(1) + m * s4.Preis(g));
+    EXPECT_EQ(s5.AltPreis(g), s4.Preis(g));
+    EXPECT_LT(s5.Bedarf(g), s4.Bedarf(g));
+    const int c = g / 11;
+    const std::string zeile = "text\t" + std::to_string(640 + 247 * c) + "\t" + std::to_string(20 + 18 * g - 180 * c) + "\t12\t65535\t";
+    EXPECT_NE(l5.screen.find(zeile), std::string::npos) << l5.screen;
+    EXPECT_NE(l5.screen.find("SST 1 (Anna) gelandet auf Sol III"), std::string::npos);
+}
+
+TEST(Handel, NotrufImSelbenZug) {
+    const std::string start = NeuesSpielSkript(1, 5000, {"Anna"});
+    const Spiel s = Zustand(Treiber(start + "key R\nkey ENTER\nkey ENTER\nkey ENTER\nkey TAB\nkey TAB\nkey ENTER\n"
+                                            "key R\nkey ENTER\nkey ENTER\nkey ENTER\n"));
+    EXPECT_EQ(s.Schiffe(1).Zustand, 0) << "called back before it moved: at rest at home";
+    EXPECT_EQ(s.Schiffe(1).Planet, SOL_III);
+    EXPECT_EQ(s.Schiffe(1).Dauer, 0);
+}
