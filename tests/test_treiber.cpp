@@ -1,5 +1,6 @@
 // The headless driver: its script, its delivery rule and what it writes.
 #include <cstring>
+#include <fstream>
 #include "flow/spielstand.h"
 #include "hilfe.h"
 #include "state/text.h"
@@ -126,4 +127,21 @@ TEST(Spielstand, BeschaedigteDatenWerdenAbgewiesen) {
     std::vector<uint8_t> kaputt = lauf.state;
     kaputt[12] = 99;  // AnzahlSpieler
     EXPECT_FALSE(SPIELSTAND_LESEN(s, kaputt, fehler));
+}
+
+TEST(Treiber, OhneSternlisteUndMusikEineKlareMeldung) {
+    const std::string leer = TempOrdner("ohne-daten");
+    TreiberLauf lauf = Treiber(NeuesSpielSkript(1, 5000), "--seed 7", leer);
+    EXPECT_EQ(lauf.status, 1) << "the program ends instead of playing with garbage";
+    EXPECT_NE(lauf.fehler.find("Planetenliste.bin"), std::string::npos) << lauf.fehler;
+    EXPECT_NE(lauf.screen.find("Planetenliste.bin"), std::string::npos) << lauf.screen;
+    EXPECT_NE(lauf.trace.find("Musik/EinleitungQuorvant.mid' nicht gefunden!"), std::string::npos)
+        << "a missing piece costs one message box";
+
+    // A star list cut short is refused the same way.
+    const std::string kurz = TempOrdner("kurze-liste");
+    std::ofstream(kurz + "/Planetenliste.bin", std::ios::binary) << std::string("\x13\x00Sonne", 7);
+    TreiberLauf lauf2 = Treiber(NeuesSpielSkript(1, 5000), "--seed 7", kurz);
+    EXPECT_EQ(lauf2.status, 1);
+    EXPECT_NE(lauf2.fehler.find("Planetenliste.bin"), std::string::npos) << lauf2.fehler;
 }
