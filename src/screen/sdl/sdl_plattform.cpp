@@ -308,26 +308,38 @@ void SdlPlattform::verarbeiten(const SDL_Event& ev) {
 }
 
 void SdlPlattform::pumpen() {
-    SDL_Event ev;
-    while (SDL_PollEvent(&ev)) verarbeiten(ev);
+    // A waiting prompt sleeps 5 ms and pumps, two hundred times a second: the
+    // sleep has just emptied the queue, so asking X again would only cost time.
+    if (geradeGepumpt_) {
+        geradeGepumpt_ = false;
+    } else {
+        SDL_Event ev;
+        while (SDL_PollEvent(&ev)) verarbeiten(ev);
+    }
     zeigen(false);
 }
 
 void SdlPlattform::schlafen(int ms) {
     const long long ende = uhrMs() + std::max(ms, 0);
     const bool kurz = ms <= 50;  // a poll of a waiting routine: wakes on input
+    bool gewartet = false;
     for (;;) {
         zeigen(false);
         const long long jetzt = uhrMs();
-        if (jetzt >= ende) return;
+        if (jetzt >= ende) {
+            geradeGepumpt_ = kurz && gewartet;
+            return;
+        }
         long long warte = ende - jetzt;
         if (geaendert_) warte = std::clamp(letztesZeigen_ + BILD_ABSTAND_MS - jetzt, 1LL, warte);
         SDL_Event ev;
+        gewartet = true;
         if (SDL_WaitEventTimeout(&ev, static_cast<int>(warte))) {
             verarbeiten(ev);
             while (SDL_PollEvent(&ev)) verarbeiten(ev);
             if (kurz) {
                 zeigen(false);
+                geradeGepumpt_ = true;
                 return;
             }
         }

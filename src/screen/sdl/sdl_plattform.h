@@ -61,6 +61,7 @@ private:
     bool videoAn_ = false;
     bool geaendert_ = true;
     bool zeigenErzwingen_ = false;
+    bool geradeGepumpt_ = false;  // the sleep before this pump already read the queue
     long long letztesZeigen_ = -1000;
     bool sdlBoxGeht_ = true;
     std::deque<Ereignis> warteschlange_;
