@@ -5,7 +5,7 @@
 #include <memory>
 #include <string>
 
-#include "flow/routinen.h"
+#include "flow/hauptschleife.h"
 #include "screen/ausgabe.h"
 #include "screen/headless/headless_plattform.h"
 #include "state/regeln.h"

@@ -3,7 +3,7 @@
 
 #include <memory>
 
-#include "flow/routinen.h"
+#include "year/jahr.h"
 #include "grosse_welt.h"
 #include "screen/headless/headless_plattform.h"
 

@@ -8,6 +8,7 @@
 #include <fstream>
 #include <sstream>
 
+#include "flow/programm.h"
 #include "state/regeln.h"
 #include "state/text.h"
 
@@ -19,6 +20,7 @@ TestSpiel::TestSpiel(const std::string& skript) {
     EXPECT_TRUE(p->schriftBereit(fehler)) << fehler;
     p->leinwand().bilderLaden(QUORVANT_DATEN_STANDARD);
     s->plattform = p.get();
+    HAKEN_SETZEN(*s);
     s->ProgrammVerzeichnis = QUORVANT_DATEN_STANDARD;
     s->AnzahlSpieler = 1;
     VORBELEGUNG_VARIABLEN(*s);

@@ -1,5 +1,5 @@
 // Choosing a ship, the order menu and the travel orders.
-#include "flow/routinen.h"
+#include "flow/hauptschleife.h"
 #include "hilfe.h"
 #include "orders/anweisen.h"
 #include "orders/reisen.h"

@@ -7,7 +7,7 @@
 #include <cstdlib>
 #include <filesystem>
 
-#include "flow/routinen.h"
+#include "flow/hauptschleife.h"
 #include "hilfe.h"
 #include "state/text.h"
 #include "views/schiff_anzeigen.h"

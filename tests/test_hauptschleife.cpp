@@ -3,7 +3,7 @@
 #include <fstream>
 #include <iterator>
 
-#include "flow/routinen.h"
+#include "flow/hauptschleife.h"
 #include "flow/spielstand.h"
 #include "hilfe.h"
 #include "screen/ausgabe.h"

@@ -1,6 +1,6 @@
 // The year on prepared states: flight, fuel, landing, stations, yard, market.
 #include "economy/markt.h"
-#include "flow/routinen.h"
+#include "year/meldung.h"
 #include "hilfe.h"
 #include "screen/ausgabe.h"
 #include "state/regeln.h"

@@ -2,7 +2,6 @@
 #include <cstring>
 #include <sstream>
 
-#include "flow/routinen.h"
 #include "flow/spielstand.h"
 #include "hilfe.h"
 #include "orders/schiffe.h"

@@ -3,8 +3,9 @@
 
 #include <array>
 
-#include "flow/routinen.h"
+#include "economy/markt.h"
 #include "screen/ausgabe.h"
+#include "screen/eingabe.h"
 #include "state/text.h"
 #include "state/zufall.h"
 

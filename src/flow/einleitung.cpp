@@ -1,17 +1,23 @@
 // The way into the game: the intro with its scroller, the start question,
 // loading or the new-game dialog, and the first turn.
+#include <cstdio>
 #include <string>
 #include <vector>
 
 #include "flow/programm.h"
-#include "flow/routinen.h"
 #include "orders/schiffe.h"
 #include "screen/ausgabe.h"
+#include "screen/eingabe.h"
 #include "screen/musik.h"
 #include "state/regeln.h"
 #include "state/sterne.h"
 #include "state/text.h"
 #include "state/zufall.h"
+#include "year/meldung.h"
+#include "year/jahr.h"
+#include "views/lagerbestand.h"
+#include "flow/sichern.h"
+#include "flow/hauptschleife.h"
 
 namespace {
 
@@ -162,7 +168,10 @@ void NeuesSpiel(Spiel& s) {
     }
     s.HoechstesSchiff = static_cast<Integer>(s.AnzahlSpieler + 5);
     s.plattform->leeren();
-    if (!STERNE_NEU(s)) {
+    std::string fehler;
+    if (!STERNE_NEU(s, fehler)) {
+        TEXT_AUSGEBEN(s, fehler, 15, 50, 300, ROT);
+        std::fprintf(stderr, "%s\n", Utf8(fehler).c_str());
         Warten(s, 3000);
         PROGRAMM_BEENDEN(s, 1);
     }

@@ -5,13 +5,14 @@
 #include <iterator>
 
 #include "flow/programm.h"
-#include "flow/routinen.h"
 #include "flow/spielstand.h"
 #include "screen/ausgabe.h"
+#include "screen/eingabe.h"
 #include "screen/musik.h"
 #include "state/regeln.h"
 #include "state/text.h"
 #include "state/zufall.h"
+#include "flow/hauptschleife.h"
 
 namespace fs = std::filesystem;
 

@@ -1,9 +1,9 @@
 #include "orders/anweisen.h"
 
-#include "flow/routinen.h"
 #include "orders/fracht.h"
 #include "orders/reisen.h"
 #include "screen/ausgabe.h"
+#include "screen/eingabe.h"
 #include "state/text.h"
 #include "views/schiff_anzeigen.h"
 

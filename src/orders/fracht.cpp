@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "screen/ausgabe.h"
+#include "screen/eingabe.h"
 #include "state/text.h"
 #include "views/schiff_anzeigen.h"
 

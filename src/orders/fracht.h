@@ -1,8 +1,7 @@
 #pragma once
+#include "screen/dialog.h"
 #include "state/spiel.h"
 
-// How a cargo order ends: done, or refused and back to the order menu.
-enum class Ausgang { Ende, ZumMenue };
 
 Ausgang BELADEN_VON_STATION(Spiel& s, int schiff);
 Ausgang BELADEN_VOM_PLANETEN(Spiel& s, int schiff);

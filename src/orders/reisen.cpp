@@ -4,7 +4,6 @@
 #include <cmath>
 #include <cstdlib>
 
-#include "flow/routinen.h"
 #include "screen/ausgabe.h"
 #include "state/sterne.h"
 #include "state/text.h"

@@ -3,7 +3,6 @@
 #include <array>
 #include <cmath>
 
-#include "flow/routinen.h"
 #include "screen/ausgabe.h"
 #include "state/text.h"
 #include "views/schiff_anzeigen.h"

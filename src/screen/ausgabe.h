@@ -1,5 +1,5 @@
 #pragma once
-// Printing, the prompts and the event handlers of the game window.
+// Printing and drawing on the game window, and the message queue.
 #include <string>
 #include <vector>
 
@@ -19,21 +19,6 @@ void DoEvents(Spiel& s);
 void Warten(Spiel& s, int ms);
 // Sets TasteDa to 0 and polls every 5 ms until a key (or click) is noted.
 void AUF_TASTE_WARTEN(Spiel& s);
-
-void JA_NEIN(Spiel& s, Integer& wert, int x, int y, int groesse, Farbe farbe);
-// Texte and Tasten are indexed from 1 (entry 0 unused).
-void AUSWAHL(Spiel& s, const std::vector<std::string>& texte, int von, int bis, int x, int y,
-             int groesse, Farbe farbe, Long& vorgabe, const std::vector<std::string>& tasten);
-// What the key M offers when buying at the planet where the ship stands.
-long MAXIMALE_LADUNG(Spiel& s, int schiff);
-void ZAHL_EINGEBEN(Spiel& s, long long min, long long max, int x, int y, int groesse,
-                   Farbe farbe, int breite, int vorgabe, int schiff);
-
-void Form_KeyDown(Spiel& s, int keyCode);
-void Form_KeyPress(Spiel& s, int keyAscii);
-void Form_MouseUp(Spiel& s, int knopf, int x, int y);
-void Form_QueryUnload(Spiel& s, bool& abbrechen);
-void tmrZeit_Timer(Spiel& s);
 
 // Draws on the window with the current line width.
 void LINIE(Spiel& s, int x1, int y1, int x2, int y2, Farbe f);

@@ -70,6 +70,16 @@ struct Zufall {
 };
 
 struct Plattform;
+struct Spiel;
+
+// Where the screen's handlers and the year must call the game above them,
+// the program hands them these at its start.
+struct Haken {
+    void (*Start)(Spiel&) = nullptr;               // the start timer fires: the game runs
+    void (*MeldungenZeigen)(Spiel&) = nullptr;     // F3: the news, page by page
+    void (*Beenden)(Spiel&, int) = nullptr;        // the window closes: the program ends
+    void (*Sichern)(Spiel&) = nullptr;             // the save ordered for the start of a year
+};
 
 struct Spiel {
     // --- the world -------------------------------------------------------
@@ -172,4 +182,5 @@ struct Spiel {
 
     Zufall zufall;
     Plattform* plattform = nullptr;  // borrowed; set by whoever runs the game
+    Haken haken;
 };

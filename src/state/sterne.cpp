@@ -10,7 +10,6 @@
 #include <numeric>
 #include <system_error>
 
-#include "screen/ausgabe.h"
 #include "state/text.h"
 #include "state/zufall.h"
 
@@ -151,11 +150,6 @@ double ZahlWert(const std::string& text) {
     return minus ? -w : w;
 }
 
-void Melden(Spiel& s, const std::string& text) {
-    if (s.plattform != nullptr) TEXT_AUSGEBEN(s, text, 15, 50, 300, ROT);
-    std::cerr << Utf8(text) << '\n';
-}
-
 // Int(Rnd x AnzahlPlaneten) + 11: any planet in play.
 int PlanetZiehen(Spiel& s) { return static_cast<int>(ZufallGanz(s, 11, s.AnzahlPlaneten + 10L)); }
 
@@ -205,16 +199,12 @@ Integer WARE_FUER_STERN(int e, float r) {
     return zeile->ware[zeile->anzahl - 1];
 }
 
-bool STERNE_NEU(Spiel& s) {
+bool STERNE_NEU(Spiel& s, std::string& fehler) {
     std::vector<std::string> eintraege;
-    std::string fehler;
-    if (!PLANETENLISTE_LESEN(s.ProgrammVerzeichnis + "/Planetenliste.bin", eintraege, fehler)) {
-        Melden(s, fehler);
-        return false;
-    }
+    if (!PLANETENLISTE_LESEN(s.ProgrammVerzeichnis + "/Planetenliste.bin", eintraege, fehler)) return false;
     const int n = s.AnzahlPlaneten / 10;
     if (n < 1 || n > ANZAHL_EINTRAEGE) {
-        Melden(s, "Die Zahl der Sternensysteme " + std::to_string(n) + " ist nicht spielbar.");
+        fehler = "Die Zahl der Sternensysteme " + std::to_string(n) + " ist nicht spielbar.";
         return false;
     }
 
@@ -247,7 +237,7 @@ bool STERNE_NEU(Spiel& s) {
         weit = weit || s.Dokument(10 * sys + 1).Abstand >= 40;
     }
     if (!nah || !weit) {
-        Melden(s, T("Die Datei 'Planetenliste.bin' hat keine Sterne für die Komponenten oder die Händler."));
+        fehler = T("Die Datei 'Planetenliste.bin' hat keine Sterne für die Komponenten oder die Händler.");
         return false;
     }
 
@@ -268,7 +258,7 @@ bool STERNE_NEU(Spiel& s) {
         const float e = static_cast<float>(stern.Abstand);
         for (long versuch = 1;; ++versuch) {
             if (versuch > PLATZ_VERSUCHE) {
-                Melden(s, "Die Sterne aus 'Planetenliste.bin' finden auf der Karte keinen Platz.");
+                fehler = "Die Sterne aus 'Planetenliste.bin' finden auf der Karte keinen Platz.";
                 return false;
             }
             const float a = Rnd(s) * 10000.0f;

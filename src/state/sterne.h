@@ -16,9 +16,14 @@ Integer WARE_FUER_STERN(int e, float r);
 // Makes the galaxy of a new game from ProgrammVerzeichnis/Planetenliste.bin
 // for AnzahlPlaneten / 10 systems: names, positions, goods, the hidden
 // components, the merchants, the pirates' headquarters and the offsets.
-// False (after telling so on the screen and on stderr) when the star list
-// cannot be used; the caller then ends the program.
-bool STERNE_NEU(Spiel& s);
+// False with a German message in Windows-1252 in fehler when the star list
+// cannot be used; the caller tells the player and ends the program.
+bool STERNE_NEU(Spiel& s, std::string& fehler);
+// The same where the message is not wanted (benchmarks, tests of the map).
+inline bool STERNE_NEU(Spiel& s) {
+    std::string fehler;
+    return STERNE_NEU(s, fehler);
+}
 
 // Distance in distance units between two planets; a negative ZielPlanet
 // (the target of a teleport) is 1 away.

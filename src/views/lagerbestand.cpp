@@ -1,7 +1,7 @@
 #include <algorithm>
 #include <cmath>
 
-#include "flow/routinen.h"
+#include "views/lagerbestand.h"
 #include "screen/ausgabe.h"
 #include "state/text.h"
 

@@ -1,6 +1,5 @@
-#include "flow/routinen.h"
+#include "views/status.h"
 
-// The status screens and the star list come with their own work; until then
-// the menu items return straight to the menu.
+// The status screens come with their own work; until then the menu item
+// returns straight to the menu.
 void STATUS(Spiel&) {}
-void STERNLIST(Spiel&) {}

@@ -1,14 +1,14 @@
 // Fights and pirates in the year. The fights themselves come with their own
 // work; the clean-up of partners and wrecks is needed by every year already.
+#include "year/kampf.h"
+
+#include "state/codes.h"
 #include "year/jahr.h"
 
 void ANGRIFFE(Spiel&) {}
-void PIRAT_IM_SCHIFFSDURCHLAUF(Spiel&, int) {}
 void ANGRIFFSBERICHT(Spiel&, int) {}
 void HAUPTQUARTIER_FEUER(Spiel&, int) {}
 void SCHIFF_BESCHAEDIGEN(Spiel&, int) {}
-void PIRATEN_ZIEHEN(Spiel&) {}
-void NEUE_PIRATEN(Spiel&) {}
 
 void PARTNER_PRUEFEN(Spiel& s) {
     for (int i = 1; i <= s.HoechstesSchiff; ++i) {

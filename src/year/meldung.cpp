@@ -1,7 +1,9 @@
+// The news of the year: writing a line, reading a ship back out of one,
+// the frame on the right with its pages, and the year's sound.
 #include "year/meldung.h"
 
-#include "flow/routinen.h"
 #include "screen/ausgabe.h"
+#include "screen/musik.h"
 #include "state/text.h"
 
 Long SCHIFF_IN_MELDUNG(const std::string& zeile, bool mitScout, bool& gefunden) {
@@ -51,4 +53,32 @@ void MELDUNG(Spiel& s) {
         else if (s.MeldungPlanet(n) >= 0) k.Planet = s.MeldungPlanet(n);
     }
     for (; r <= KLICK_ZEILEN; ++r) s.KlickFelder(r) = KlickFeld{0, 0, 0, 0, -1, -1};
+}
+
+void MELDUNG_NEU(Spiel& s, const std::string& text, Farbe farbe, Long planet) {
+    if (s.MeldungAnzahl >= MELDUNGEN_MAX - 1) {
+        // The table is full: the last line counts what could not be told.
+        ++s.MeldungenAusgelassen;
+        s.MeldungAnzahl = MELDUNGEN_MAX;
+        s.MeldungText(MELDUNGEN_MAX) = "-- " + std::to_string(s.MeldungenAusgelassen) + " weitere Meldungen fehlen --";
+        s.MeldungFarbe(MELDUNGEN_MAX) = ROT;
+        s.MeldungPlanet(MELDUNGEN_MAX) = -1;
+        return;
+    }
+    ++s.MeldungAnzahl;
+    s.MeldungText(s.MeldungAnzahl) = text;
+    s.MeldungFarbe(s.MeldungAnzahl) = static_cast<Long>(farbe);
+    s.MeldungPlanet(s.MeldungAnzahl) = planet;
+}
+
+std::string LABEL(const Spiel& s, int schiff) { return s.Schiffe(schiff).Typ + std::to_string(schiff); }
+
+
+void JAHRES_KLANG(Spiel& s) {
+    static const char* const STUECKE[] = {"", "MeteorQuorvant.mid", "LagerbrandQuorvant.mid", "ErnennungQuorvant.mid",
+                                          "OrdenQuorvant.mid", "DTWQuorvant.mid"};
+    if (s.SoundAn == 0) s.SoundEreignis = 0;
+    DoEvents(s);
+    if (s.SoundEreignis >= 1 && s.SoundEreignis <= 5) MCI_Play(s, STUECKE[s.SoundEreignis]);
+    s.SoundEreignis = 0;
 }
