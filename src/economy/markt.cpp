@@ -8,6 +8,7 @@
 #include "screen/eingabe.h"
 #include "state/text.h"
 #include "state/zufall.h"
+#include "state/codes.h"
 
 namespace {
 
@@ -122,10 +123,10 @@ void WAREN_VERKAUFEN(Spiel& s) {
         if (s.Bedarf(g) < -200) s.Bedarf(g) = -200;
     }
     long erloes;
-    if (s.Forschung(9, p) == -1) erloes = m * (s.Preis(g) + 5 + ZufallGanz(s, 0, 5));  // the promotion agency
+    if (Erfunden(s, ERF_WERBUNG, p)) erloes = m * (s.Preis(g) + 5 + ZufallGanz(s, 0, 5));  // the promotion agency
     else erloes = m * s.Preis(g);
     s.Bargeld(p) += erloes;
-    if (s.AnzahlSpieler == 1) s.Statistik(1, 2) += erloes;
+    EINSTATISTIK(s, EST_VERKAUFSERLOES, erloes);
     MARKT_ZEILE(s, g, false);
     DoEvents(s);
 }

@@ -18,6 +18,7 @@
 #include "views/lagerbestand.h"
 #include "flow/sichern.h"
 #include "flow/hauptschleife.h"
+#include "state/codes.h"
 
 namespace {
 
@@ -152,15 +153,15 @@ void NeuesSpiel(Spiel& s) {
         for (int g = 1; g <= 10; ++g) s.Lager(g, p) = 0;
         SCHIFF_NEU(s, 1);
         s.DockSchiffe(1, p) = 0;  // ready at once, not in the yard
-        s.Schiffe(p).Zustand = 0;
+        s.Schiffe(p).Zustand = ZUSTAND_RUHT;
         s.Schiffe(p).Dauer = 0;
     }
 
     for (int i = 1; i <= 5; ++i) {
         Schiff& pirat = s.Schiffe(s.AnzahlSpieler + i);
-        pirat.Besitzer = 7;
-        pirat.Typ = "FSS ";
-        pirat.Zustand = 0;
+        pirat.Besitzer = BESITZER_PIRATEN;
+        pirat.Typ = TYP_KREUZER;
+        pirat.Zustand = ZUSTAND_RUHT;
         pirat.Bewaffnung = static_cast<Integer>(ZufallGanz(s, 4, 12));
         pirat.Planet = static_cast<Integer>(ZufallGanz(s, 11, s.AnzahlPlaneten + 10));
         pirat.Schaden = 0;

@@ -9,16 +9,13 @@
 #include "screen/eingabe.h"
 #include "state/text.h"
 #include "views/schiff_anzeigen.h"
+#include "state/codes.h"
 
 namespace {
 
-Ausgang Ablehnung(Spiel& s, const std::string& text) {
-    TEXT_AUSGEBEN(s, text, 15, 50, 690, WEISS);
-    DoEvents(s);
-    Warten(s, 1000);
-    BOX(s, 50, 660, 480, 720, SCHWARZ);
-    return Ausgang::ZumMenue;
-}
+// Cargo orders refuse on the row below their question and show the order
+// menu again.
+Ausgang Ablehnung(Spiel& s, const std::string& text) { return ABLEHNEN(s, text, 690, Ausgang::ZumMenue); }
 
 Ausgang KeinGeld(Spiel& s) { return Ablehnung(s, "Nicht genug Geld vorhanden!"); }
 
@@ -33,11 +30,8 @@ Ausgang Kasse(Spiel& s, int schiff) {
     return Ausgang::Ende;
 }
 
-bool Erfunden(const Spiel& s, int k) { return s.Forschung(k, s.AktSpieler) == -1; }
+bool Erfunden(const Spiel& s, int k) { return ::Erfunden(s, k, s.AktSpieler); }
 
-void Einstatistik(Spiel& s, int spalte, long wert) {
-    if (s.AnzahlSpieler == 1) s.Statistik(spalte, 2) += wert;
-}
 
 // A menu list from texts; entry 0 unused, empty texts are places not offered.
 struct Liste {
@@ -71,7 +65,7 @@ int StationWaehlen(Spiel& s, int p, const std::string& kopf, int y, F test) {
     std::vector<int> nummern(1);
     for (int t = 1; t <= s.HoechstesSchiff; ++t) {
         const Schiff& st = s.Schiffe(t);
-        if (st.Typ == "TSR " && st.Zustand == 0 && st.Planet == p && test(st)) {
+        if (st.Typ == TYP_STATION && st.Zustand == ZUSTAND_RUHT && st.Planet == p && test(st)) {
             nummern.push_back(t);
             l.setzen(static_cast<int>(nummern.size()) - 1, Space(3 - static_cast<int>(std::to_string(t).size())) + std::to_string(t));
         }
@@ -83,7 +77,7 @@ int StationWaehlen(Spiel& s, int p, const std::string& kopf, int y, F test) {
 }
 
 void TankFuellen(Schiff& sch) {
-    if (sch.Typ == "XXL ") {
+    if (sch.Typ == TYP_GROSSFRACHTER) {
         sch.Treibstoff += sch.Tankgroesse / 2.0f;  // the double tank needs two fillings
         if (sch.Treibstoff > sch.Tankgroesse) sch.Treibstoff = sch.Tankgroesse;
     } else {
@@ -117,7 +111,7 @@ Ausgang BELADEN_VOM_PLANETEN(Spiel& s, int nr) {
     sch.Fracht(pl.Ware) = static_cast<Integer>(sch.Fracht(pl.Ware) + e);
     sch.Ladung = static_cast<Integer>(sch.Ladung + e);
     s.Bargeld(s.AktSpieler) -= pl.Preis * e;
-    Einstatistik(s, 2, pl.Preis * e);
+    EINSTATISTIK(s, EST_WARENEINKAUF, pl.Preis * e);
     return Ausgang::Ende;
 }
 
@@ -125,20 +119,20 @@ Ausgang BELADEN_AUSRUESTUNG(Spiel& s, int nr) {
     Schiff& sch = s.Schiffe(nr);
     Long& geld = s.Bargeld(s.AktSpieler);
     Liste l(3);
-    if (sch.Fracht(22) == 0 && Erfunden(s, 3)) l.setzen(1, "Reparaturset     ");
-    if (sch.Ladung + 1 < sch.Laderaum && Erfunden(s, 8)) l.setzen(2, T("Produktionsgeräte"));
-    if (Erfunden(s, 11) && sch.Ladung == 0 && sch.Laderaum >= 100) l.setzen(3, "Portal           ");
+    if (sch.Fracht(FRACHT_REPARATURSET) == 0 && Erfunden(s, ERF_REPARATURSET)) l.setzen(1, "Reparaturset     ");
+    if (sch.Ladung + 1 < sch.Laderaum && Erfunden(s, ERF_GERAETE)) l.setzen(2, T("Produktionsgeräte"));
+    if (Erfunden(s, ERF_PORTAL) && sch.Ladung == 0 && sch.Laderaum >= 100) l.setzen(3, "Portal           ");
     if (!l.von) return Ausgang::Ende;
     const int wahl = Waehlen(s, l, 50, 660, l.von);
     if (wahl == 1) {
-        const bool xxl = sch.Typ == "XXL ";
+        const bool xxl = sch.Typ == TYP_GROSSFRACHTER;
         TEXT_AUSGEBEN(s, xxl ? "Kosten: 6000 SD     OK?" : "Kosten: 1000 SD     OK?", 15, 50, 690, WEISS);
         Integer wert = -1;
         JA_NEIN(s, wert, 340, 690, 15, WEISS);
         if (s.Eingabe != 1) return Ausgang::Ende;
         if (geld < (xxl ? 6000 : 1000)) return KeinGeld(s);
         geld -= xxl ? 6000 : 1000;
-        sch.Fracht(22) = 1;
+        sch.Fracht(FRACHT_REPARATURSET) = 1;
         return Kasse(s, nr);
     }
     if (wahl == 2) {
@@ -149,7 +143,7 @@ Ausgang BELADEN_AUSRUESTUNG(Spiel& s, int nr) {
         const long e = Zahl(s, 0, m, 250, 690, 4, static_cast<int>(a), 0);
         if (e < 1) return Ausgang::Ende;
         if (e * 50 > geld) return KeinGeld(s);
-        sch.Fracht(24) = static_cast<Integer>(sch.Fracht(24) + e);
+        sch.Fracht(FRACHT_GERAETE) = static_cast<Integer>(sch.Fracht(FRACHT_GERAETE) + e);
         sch.Ladung = static_cast<Integer>(sch.Ladung + 2 * e);
         geld -= 50 * e;
         return Kasse(s, nr);
@@ -160,7 +154,7 @@ Ausgang BELADEN_AUSRUESTUNG(Spiel& s, int nr) {
         Integer wert = -1;
         JA_NEIN(s, wert, 350, 690, 15, WEISS);
         if (s.Eingabe != 1) return Ausgang::Ende;
-        sch.Fracht(25) = 1;
+        sch.Fracht(FRACHT_PORTAL) = 1;
         sch.Ladung = sch.Laderaum;  // the portal fills the whole hold
         geld -= 100000;
         return Kasse(s, nr);
@@ -174,8 +168,8 @@ Ausgang BELADEN_VON_STATION(Spiel& s, int nr) {
     if (!t) return Ausgang::Ende;
     Schiff& st = s.Schiffe(t);
     Liste l(22);
-    if (st.Fracht(24) > 0) l.setzen(1, T("Geräte        "));
-    if (st.Ladung > 2 * st.Fracht(24)) l.setzen(2, "Alle Waren    ");
+    if (st.Fracht(FRACHT_GERAETE) > 0) l.setzen(1, T("Geräte        "));
+    if (st.Ladung > 2 * st.Fracht(FRACHT_GERAETE)) l.setzen(2, "Alle Waren    ");
     for (int g = 20; g >= 1; --g)
         if (st.Fracht(g) > 0) l.setzen(23 - g, s.WarenName(g));
     if (!l.von) return Ausgang::Ende;
@@ -183,16 +177,16 @@ Ausgang BELADEN_VON_STATION(Spiel& s, int nr) {
     if (wahl < 1) return Ausgang::Ende;
     const long frei = sch.Laderaum - sch.Ladung;
     if (wahl == 1) {
-        long a = st.Fracht(24);
+        long a = st.Fracht(FRACHT_GERAETE);
         if (2 * a > frei) a = frei / 2;
         const long e = Zahl(s, 0, a, 50, 690, 4, static_cast<int>(a), 0);
         if (e < 0) return Ausgang::Ende;
-        st.Fracht(24) = static_cast<Integer>(st.Fracht(24) - e);
+        st.Fracht(FRACHT_GERAETE) = static_cast<Integer>(st.Fracht(FRACHT_GERAETE) - e);
         st.Ladung = static_cast<Integer>(st.Ladung - 2 * e);
-        sch.Fracht(24) = static_cast<Integer>(sch.Fracht(24) + e);
+        sch.Fracht(FRACHT_GERAETE) = static_cast<Integer>(sch.Fracht(FRACHT_GERAETE) + e);
         sch.Ladung = static_cast<Integer>(sch.Ladung + 2 * e);
     } else if (wahl == 2) {
-        long a = st.Ladung - 2 * st.Fracht(24);
+        long a = st.Ladung - 2 * st.Fracht(FRACHT_GERAETE);
         if (a > frei) a = frei;
         long e = Zahl(s, 0, a, 50, 690, 4, static_cast<int>(a), 0);
         if (e < 0) return Ausgang::Ende;
@@ -224,8 +218,8 @@ void TankeinheitenBuchen(Spiel& s, Schiff& sch, long e, bool super) {
     sch.Fracht(super ? 23 : 21) = static_cast<Integer>(sch.Fracht(super ? 23 : 21) + e);
     sch.Ladung = static_cast<Integer>(sch.Ladung + e);
     s.Bargeld(s.AktSpieler) -= 30 * e;
-    Einstatistik(s, 12, e);
-    if (super) s.Lager(10, s.AktSpieler) = static_cast<Integer>(s.Lager(10, s.AktSpieler) - (e + 4) / 5);
+    EINSTATISTIK(s, EST_TANKEINHEITEN, e);
+    if (super) s.Lager(WARE_MIRELLEN, s.AktSpieler) = static_cast<Integer>(s.Lager(WARE_MIRELLEN, s.AktSpieler) - (e + 4) / 5);
 }
 
 Ausgang NormaleTankeinheiten(Spiel& s, int nr, int y) {
@@ -249,48 +243,48 @@ Ausgang BELADEN_TANKER(Spiel& s, int nr) {
     const int p = s.AktSpieler;
     if (sch.Planet != SOL_III) {
         const int t = StationWaehlen(s, sch.Planet, "Beladen von TSR    :", 660,
-                                     [](const Schiff& st) { return st.Fracht(21) + st.Fracht(23) > 0; });
+                                     [](const Schiff& st) { return st.Fracht(FRACHT_SPRIT) + st.Fracht(FRACHT_SUPERSPRIT) > 0; });
         if (!t) return Ausgang::Ende;
         Schiff& st = s.Schiffe(t);
-        long a = st.Fracht(21) + st.Fracht(23);
+        long a = st.Fracht(FRACHT_SPRIT) + st.Fracht(FRACHT_SUPERSPRIT);
         if (sch.Ladung + a > sch.Laderaum) a = sch.Laderaum - sch.Ladung;
         long e = Zahl(s, 0, a, 300, 660, 4, static_cast<int>(a), 0);
         if (e <= 0) return Ausgang::Ende;
-        if (e < st.Fracht(23)) {  // Supersprit goes first
-            st.Fracht(23) = static_cast<Integer>(st.Fracht(23) - e);
-            sch.Fracht(23) = static_cast<Integer>(sch.Fracht(23) + e);
+        if (e < st.Fracht(FRACHT_SUPERSPRIT)) {  // Supersprit goes first
+            st.Fracht(FRACHT_SUPERSPRIT) = static_cast<Integer>(st.Fracht(FRACHT_SUPERSPRIT) - e);
+            sch.Fracht(FRACHT_SUPERSPRIT) = static_cast<Integer>(sch.Fracht(FRACHT_SUPERSPRIT) + e);
             sch.Ladung = static_cast<Integer>(sch.Ladung + e);
         } else {
-            sch.Fracht(23) = static_cast<Integer>(sch.Fracht(23) + st.Fracht(23));
-            sch.Ladung = static_cast<Integer>(sch.Ladung + st.Fracht(23));
-            e -= st.Fracht(23);
-            st.Fracht(23) = 0;
-            st.Fracht(21) = static_cast<Integer>(st.Fracht(21) - e);
-            sch.Fracht(21) = static_cast<Integer>(sch.Fracht(21) + e);
+            sch.Fracht(FRACHT_SUPERSPRIT) = static_cast<Integer>(sch.Fracht(FRACHT_SUPERSPRIT) + st.Fracht(FRACHT_SUPERSPRIT));
+            sch.Ladung = static_cast<Integer>(sch.Ladung + st.Fracht(FRACHT_SUPERSPRIT));
+            e -= st.Fracht(FRACHT_SUPERSPRIT);
+            st.Fracht(FRACHT_SUPERSPRIT) = 0;
+            st.Fracht(FRACHT_SPRIT) = static_cast<Integer>(st.Fracht(FRACHT_SPRIT) - e);
+            sch.Fracht(FRACHT_SPRIT) = static_cast<Integer>(sch.Fracht(FRACHT_SPRIT) + e);
             sch.Ladung = static_cast<Integer>(sch.Ladung + e);
         }
         return Ausgang::Ende;
     }
     Liste l(2);
     if (sch.Ladung < sch.Laderaum) l.setzen(1, "Tankeinheiten");
-    if (sch.Fracht(22) == 0 && Erfunden(s, 3)) l.setzen(2, "Reperaturset ");
+    if (sch.Fracht(FRACHT_REPARATURSET) == 0 && Erfunden(s, ERF_REPARATURSET)) l.setzen(2, "Reperaturset ");
     int wahl = 1;
     if (!l.t[2].empty()) wahl = Waehlen(s, l, 50, 660, l.von);
     if (wahl < 1) return Ausgang::Ende;
     if (wahl == 2) {
         if (s.Bargeld(p) < 1000) return KeinGeld(s);
         s.Bargeld(p) -= 1000;
-        sch.Fracht(22) = 1;
+        sch.Fracht(FRACHT_REPARATURSET) = 1;
         return Kasse(s, nr);
     }
-    if (s.Forschung(6, p) == 0) return NormaleTankeinheiten(s, nr, 660);
+    if (!Erfunden(s, ERF_SUPERSPRIT, p)) return NormaleTankeinheiten(s, nr, 660);
     Liste art(2);
     art.setzen(1, "Normaler Treibstoff: Kosten 30      ");
     art.setzen(2, "Supersprit: Kosten 30 + 0.2t Mirell.");
     const int sorte = Waehlen(s, art, 50, 660, 2);
     if (sorte < 1) return Ausgang::Ende;
     if (sorte == 1) return NormaleTankeinheiten(s, nr, 690);
-    const long lager = s.Lager(10, p);
+    const long lager = s.Lager(WARE_MIRELLEN, p);
     if (lager == 0) return Ablehnung(s, "Keine Mirellen aus Lager!");
     TEXT_AUSGEBEN(s, "Wie viele Tankeinheiten? ", 15, 50, 690, WEISS);
     const long r = sch.Laderaum - sch.Ladung;
@@ -308,14 +302,9 @@ Ausgang BELADEN_TANKER(Spiel& s, int nr) {
 Ausgang BETANKEN_SOL(Spiel& s, int nr) {
     Schiff& sch = s.Schiffe(nr);
     const int p = s.AktSpieler;
-    if (s.Bargeld(p) < 30) {
-        TEXT_AUSGEBEN(s, "Nicht genug Geld vorhanden!", 15, 50, 660, WEISS);
-        DoEvents(s);
-        Warten(s, 1000);
-        return Ausgang::Ende;
-    }
+    if (s.Bargeld(p) < 30) return ABLEHNEN(s, "Nicht genug Geld vorhanden!", 660);
     bool super = false;
-    if (s.Forschung(6, p) == 0) {
+    if (!Erfunden(s, ERF_SUPERSPRIT, p)) {
         TEXT_AUSGEBEN(s, "Kosten: 30       OK?", 15, 50, 660, WEISS);
         if (!JaGesagt(s, 305, 660)) return Ausgang::Ende;
     } else {
@@ -328,17 +317,17 @@ Ausgang BETANKEN_SOL(Spiel& s, int nr) {
             TEXT_AUSGEBEN(s, "Kosten: 30       OK?", 15, 50, 690, WEISS);
             if (!JaGesagt(s, 305, 690)) return Ausgang::Ende;
         } else {
-            if (s.Lager(10, p) == 0) return Ablehnung(s, "Keine Mirellen aus Lager!");
+            if (s.Lager(WARE_MIRELLEN, p) == 0) return Ablehnung(s, "Keine Mirellen aus Lager!");
             TEXT_AUSGEBEN(s, "Kosten: 30 + 1t Mirellen   OK?", 15, 50, 690, WEISS);
             if (!JaGesagt(s, 425, 690)) return Ausgang::Ende;
             super = true;
-            s.Lager(10, p) = static_cast<Integer>(s.Lager(10, p) - 1);
+            s.Lager(WARE_MIRELLEN, p) = static_cast<Integer>(s.Lager(WARE_MIRELLEN, p) - 1);
         }
     }
     TankFuellen(sch);
     sch.Supersprit = super ? -1 : 0;
     s.Bargeld(p) -= 30;
-    Einstatistik(s, 12, 1);
+    EINSTATISTIK(s, EST_TANKEINHEITEN, 1);
     SCHIFF_ANZEIGEN(s, nr);
     DoEvents(s);
     Warten(s, 1000);
@@ -350,26 +339,26 @@ Ausgang BETANKEN_STATION(Spiel& s, int nr) {
     int t = 0;
     for (int i = 1; i <= s.HoechstesSchiff && !t; ++i) {
         const Schiff& st = s.Schiffe(i);
-        if (st.Typ == "TSR " && st.Zustand == 0 && st.Planet == sch.Planet && st.Fracht(21) + st.Fracht(23) > 0) t = i;
+        if (st.Typ == TYP_STATION && st.Zustand == ZUSTAND_RUHT && st.Planet == sch.Planet && st.Fracht(FRACHT_SPRIT) + st.Fracht(FRACHT_SUPERSPRIT) > 0) t = i;
     }
     if (!t) return Ausgang::Ende;
     Schiff& st = s.Schiffe(t);
-    if (s.Forschung(6, s.AktSpieler) == 0) {
-        TEXT_AUSGEBEN(s, "Tanken von TSR " + std::to_string(t) + " (Tankeinh.: " + std::to_string(st.Fracht(21)) + ")", 15,
+    if (!Erfunden(s, ERF_SUPERSPRIT, s.AktSpieler)) {
+        TEXT_AUSGEBEN(s, "Tanken von TSR " + std::to_string(t) + " (Tankeinh.: " + std::to_string(st.Fracht(FRACHT_SPRIT)) + ")", 15,
                       50, 660, WEISS);
         if (!JaGesagt(s, 70, 690)) return Ausgang::Ende;
         TankFuellen(sch);
-        st.Fracht(21) = static_cast<Integer>(st.Fracht(21) - 1);
+        st.Fracht(FRACHT_SPRIT) = static_cast<Integer>(st.Fracht(FRACHT_SPRIT) - 1);
     } else {
         TEXT_AUSGEBEN(s, "Tanken von TSR " + std::to_string(t) + "       ", 15, 50, 630, WEISS);
-        TEXT_AUSGEBEN(s, "Normal: " + std::to_string(st.Fracht(21)) + "    Super: " + std::to_string(st.Fracht(23)), 15, 50, 660,
+        TEXT_AUSGEBEN(s, "Normal: " + std::to_string(st.Fracht(FRACHT_SPRIT)) + "    Super: " + std::to_string(st.Fracht(FRACHT_SUPERSPRIT)), 15, 50, 660,
                       WEISS);
         Liste l(2);
         l.t[1] = "Normaler Treibstoff";
         l.t[2] = "Supersprit         ";
-        l.von = st.Fracht(21) != 0 ? 1 : 2;
-        l.bis = st.Fracht(23) != 0 ? 2 : 1;
-        const int wahl = Waehlen(s, l, 50, 690, sch.Typ == "TSR " ? l.von : l.bis);
+        l.von = st.Fracht(FRACHT_SPRIT) != 0 ? 1 : 2;
+        l.bis = st.Fracht(FRACHT_SUPERSPRIT) != 0 ? 2 : 1;
+        const int wahl = Waehlen(s, l, 50, 690, sch.Typ == TYP_STATION ? l.von : l.bis);
         if (wahl < 1) return Ausgang::Ende;
         TankFuellen(sch);
         sch.Supersprit = wahl == 2 ? -1 : 0;
@@ -387,21 +376,21 @@ Ausgang ENTLADEN(Spiel& s, int nr) {
                                  [](const Schiff& st) { return st.Ladung < st.Laderaum; });
     if (!t) return Ausgang::Ende;
     Schiff& st = s.Schiffe(t);
-    if (sch.Typ == "TST ") {
+    if (sch.Typ == TYP_TANKER) {
         TEXT_AUSGEBEN(s, "Wie viel?      TE", 15, 50, 660, WEISS);
         long e = Zahl(s, 0, sch.Ladung, 180, 660, 4, sch.Ladung, 0);
         if (e < 1) return Ausgang::Ende;
-        if (e <= sch.Fracht(23)) {
-            st.Fracht(23) = static_cast<Integer>(st.Fracht(23) + e);
-            sch.Fracht(23) = static_cast<Integer>(sch.Fracht(23) - e);
+        if (e <= sch.Fracht(FRACHT_SUPERSPRIT)) {
+            st.Fracht(FRACHT_SUPERSPRIT) = static_cast<Integer>(st.Fracht(FRACHT_SUPERSPRIT) + e);
+            sch.Fracht(FRACHT_SUPERSPRIT) = static_cast<Integer>(sch.Fracht(FRACHT_SUPERSPRIT) - e);
             sch.Ladung = static_cast<Integer>(sch.Ladung - e);
         } else {
-            st.Fracht(23) = static_cast<Integer>(st.Fracht(23) + sch.Fracht(23));
-            e -= sch.Fracht(23);
-            st.Fracht(21) = static_cast<Integer>(st.Fracht(21) + e);
-            sch.Fracht(21) = static_cast<Integer>(sch.Fracht(21) - e);
-            sch.Fracht(23) = 0;
-            sch.Ladung = sch.Fracht(21);
+            st.Fracht(FRACHT_SUPERSPRIT) = static_cast<Integer>(st.Fracht(FRACHT_SUPERSPRIT) + sch.Fracht(FRACHT_SUPERSPRIT));
+            e -= sch.Fracht(FRACHT_SUPERSPRIT);
+            st.Fracht(FRACHT_SPRIT) = static_cast<Integer>(st.Fracht(FRACHT_SPRIT) + e);
+            sch.Fracht(FRACHT_SPRIT) = static_cast<Integer>(sch.Fracht(FRACHT_SPRIT) - e);
+            sch.Fracht(FRACHT_SUPERSPRIT) = 0;
+            sch.Ladung = sch.Fracht(FRACHT_SPRIT);
         }
         return Ausgang::Ende;
     }
@@ -410,7 +399,7 @@ Ausgang ENTLADEN(Spiel& s, int nr) {
     l.setzen(1, "Alle Waren  ");
     for (int g = 1; g <= 20; ++g)
         if (sch.Fracht(g) > 0) l.setzen(g + 1, s.WarenName(g));
-    if (sch.Fracht(24) > 0) l.setzen(22, T("Geräte      "));
+    if (sch.Fracht(FRACHT_GERAETE) > 0) l.setzen(22, T("Geräte      "));
     const int wahl = Waehlen(s, l, 70, 690, 1);
     if (wahl < 1) return Ausgang::Ende;
     auto umladen = [&](int g) {
@@ -431,11 +420,11 @@ Ausgang ENTLADEN(Spiel& s, int nr) {
         for (int g = 1; g <= 20; ++g) umladen(g);
     } else if (wahl == 22) {
         do {
-            sch.Fracht(24) = static_cast<Integer>(sch.Fracht(24) - 1);
+            sch.Fracht(FRACHT_GERAETE) = static_cast<Integer>(sch.Fracht(FRACHT_GERAETE) - 1);
             sch.Ladung = static_cast<Integer>(sch.Ladung - 2);
-            st.Fracht(24) = static_cast<Integer>(st.Fracht(24) + 1);
+            st.Fracht(FRACHT_GERAETE) = static_cast<Integer>(st.Fracht(FRACHT_GERAETE) + 1);
             st.Ladung = static_cast<Integer>(st.Ladung + 2);
-        } while (sch.Fracht(24) != 0 && st.Ladung + 2 <= st.Laderaum);
+        } while (sch.Fracht(FRACHT_GERAETE) != 0 && st.Ladung + 2 <= st.Laderaum);
     } else {
         umladen(wahl - 1);
     }
@@ -446,39 +435,22 @@ Ausgang ANKOPPELN(Spiel& s, int nr) {
     Schiff& st = s.Schiffe(nr);
     auto kandidat = [&](int c) {
         const Schiff& f = s.Schiffe(c);
-        return f.Typ == "SST " && f.Besitzer == s.AktSpieler && f.Zustand == 0 && f.Planet == st.Planet && f.Ladung == 0 &&
+        return f.Typ == TYP_FRACHTER && f.Besitzer == s.AktSpieler && f.Zustand == ZUSTAND_RUHT && f.Planet == st.Planet && f.Ladung == 0 &&
                f.Partner == 0;
     };
-    int c = 0;
-    for (int i = 1; i <= s.HoechstesSchiff && !c; ++i)
-        if (kandidat(i)) c = i;
+    int c = NAECHSTES_SCHIFF(1, 1, s.HoechstesSchiff, kandidat);
     if (!c) return Ausgang::Ende;
     SCHIFF_ANZEIGEN(s, c);
     TEXT_AUSGEBEN(s, T("Bitte Frachter wählen!"), 15, 50, 630, WEISS);
-    s.TasteDa = 0;
-    for (;;) {
-        s.plattform->schlafen(5);
-        DoEvents(s);
-        if (s.TasteDa == 0) continue;
-        const int code = s.TastenCode;
-        s.TasteDa = 0;
-        if (code == Taste::Esc) return Ausgang::Ende;
-        if (code == Taste::Enter) break;
-        if (code == Taste::Hoch || code == Taste::Runter) {
-            const int schritt = code == Taste::Hoch ? 1 : -1;
-            int n = c;
-            do {
-                n += schritt;
-                if (n > s.HoechstesSchiff) n = 1;
-                if (n < 1) n = s.HoechstesSchiff;
-            } while (!kandidat(n) && n != c);
-            c = n;
-            SCHIFF_ANZEIGEN(s, c);
-        }
-    }
+    SchiffWahl wahl;
+    wahl.passt = kandidat;
+    wahl.zeigen = [&s](int n) { SCHIFF_ANZEIGEN(s, n); };
+    wahl.grenze = s.HoechstesSchiff;
+    c = SCHIFF_WAEHLEN(s, c, wahl).schiff;
+    if (!c) return Ausgang::Ende;
     s.Schiffe(c).Partner = static_cast<Integer>(nr);
     st.Partner = static_cast<Integer>(c);
-    st.Zustand = 10;
+    st.Zustand = ZUSTAND_GEKOPPELT;
     return Ausgang::Ende;
 }
 
@@ -489,6 +461,6 @@ Ausgang TRENNEN(Spiel& s, int nr) {
         s.Schiffe(st.Partner).Partner = 0;
     }
     st.Partner = 0;
-    st.Zustand = 0;
+    st.Zustand = ZUSTAND_RUHT;
     return Ausgang::Ende;
 }

@@ -5,9 +5,11 @@
 #include <cstdlib>
 
 #include "screen/ausgabe.h"
+#include "screen/dialog.h"
 #include "state/sterne.h"
 #include "state/text.h"
 #include "views/schiff_anzeigen.h"
+#include "state/codes.h"
 
 namespace {
 
@@ -115,18 +117,18 @@ void STERNKARTE(Spiel& s) {
         bool linie;
         if (sch.Besitzer == s.AktSpieler) {
             f = CYAN;
-            linie = sch.Zustand == 1 && sch.StartPlanet > 0;
-        } else if (sch.Besitzer == 7) {
+            linie = sch.Zustand == ZUSTAND_FLIEGT && sch.StartPlanet > 0;
+        } else if (sch.Besitzer == BESITZER_PIRATEN) {
             f = GRAU;
-            linie = sch.Zustand == 1;
+            linie = sch.Zustand == ZUSTAND_FLIEGT;
         } else {
             f = BLAU;
-            linie = sch.Zustand == 1 && sch.StartPlanet >= 0;
+            linie = sch.Zustand == ZUSTAND_FLIEGT && sch.StartPlanet >= 0;
         }
         const int start = std::abs(sch.StartPlanet);
         if (linie && sch.Planet >= 1 && start >= 1 && start <= MAX_PLANETEN)
             LINIE(s, KarteX(s, sch.Planet), KarteY(s, sch.Planet), KarteX(s, start), KarteY(s, start), f);
-        if (sch.Planet > 3 && sch.Planet <= MAX_PLANETEN)
+        if (sch.Planet > SOL_III && sch.Planet <= MAX_PLANETEN)
             s.plattform->kreis(KarteX(s, sch.Planet), KarteY(s, sch.Planet), 1, f, true, 1);
     }
 }
@@ -188,7 +190,7 @@ void ORDER_START(Spiel& s, int schiff) {
     ZIEL_WAEHLEN(s, schiff);
     Schiff& sch = s.Schiffe(schiff);
     if (s.Eingabe == -1 || s.Eingabe == sch.Planet) return;
-    sch.Zustand = 1;
+    sch.Zustand = ZUSTAND_FLIEGT;
     sch.StartPlanet = sch.Planet;
     sch.Planet = static_cast<Integer>(s.Eingabe);
     sch.Dauer = static_cast<Integer>(ENTFERNUNG(s, sch.StartPlanet, sch.Planet));
@@ -200,9 +202,7 @@ void ORDER_TELEPORTIEREN(Spiel& s, int schiff) {
     int t = 3;
     while (t <= letzter && !Portalziel(s, t, schiff)) ++t;
     if (t > letzter) {
-        TEXT_AUSGEBEN(s, "Kein weiteres Portal vorhanden!", 15, 50, 660, WEISS);
-        DoEvents(s);
-        Warten(s, 1000);
+        ABLEHNEN(s, "Kein weiteres Portal vorhanden!", 660);
         return;
     }
     STERNKARTE(s);
@@ -234,7 +234,7 @@ void ORDER_TELEPORTIEREN(Spiel& s, int schiff) {
     sch.StartPlanet = static_cast<Integer>(-sch.Planet);
     sch.Planet = static_cast<Integer>(t);
     sch.Dauer = 1;
-    sch.Zustand = 1;
+    sch.Zustand = ZUSTAND_FLIEGT;
     PartnerMitnehmen(s, schiff);
 }
 
@@ -242,7 +242,7 @@ void ORDER_NOTRUF(Spiel& s, int schiff) {
     Schiff& sch = s.Schiffe(schiff);
     std::swap(sch.Planet, sch.StartPlanet);
     sch.Dauer = static_cast<Integer>(ENTFERNUNG(s, sch.StartPlanet, sch.Planet) - sch.Dauer);
-    if (sch.Dauer == 0) sch.Zustand = 0;
+    if (sch.Dauer == 0) sch.Zustand = ZUSTAND_RUHT;
     PartnerMitnehmen(s, schiff);
     TEXT_AUSGEBEN(s, "Notruf erhalten. Schiff kehrt um!", 15, 50, 660, WEISS);
     SCHIFF_ANZEIGEN(s, schiff);

@@ -4,8 +4,10 @@
 #include <cmath>
 
 #include "screen/ausgabe.h"
+#include "screen/dialog.h"
 #include "state/text.h"
 #include "views/schiff_anzeigen.h"
+#include "state/codes.h"
 
 namespace {
 
@@ -32,13 +34,11 @@ static_assert(SCHIFF_START.size() == 6, "six ship types");
 
 void SCHIFF_NEU(Spiel& s, int typ) {
     const int p = s.AktSpieler;
-    const int m = s.Forschung(7, p) == -1 ? 7 : 5;
+    const int m = DockPlaetze(s, p);
     int i = 1;
     while (i < SCHIFF_GRENZE && !s.Schiffe(i).Name.empty()) ++i;
     if (i == SCHIFF_GRENZE) {
-        TEXT_AUSGEBEN(s, "Zu viele Schiffe!", 15, 50, 630, WEISS);
-        DoEvents(s);
-        Warten(s, 1000);
+        ABLEHNEN(s, "Zu viele Schiffe!", 630);
         return;
     }
     if (i > s.HoechstesSchiff) s.HoechstesSchiff = static_cast<Integer>(i);
@@ -63,8 +63,8 @@ void SCHIFF_NEU(Spiel& s, int typ) {
 
     s.Bargeld(p) -= s.SchiffPreis(typ);
     if (s.AnzahlSpieler == 1) {
-        s.Statistik(6, 2) += s.SchiffPreis(typ);
-        s.Statistik(7, 2) += s.SchiffPreis(typ);
+        s.Statistik(EST_DOCK_ZAHLUNGEN, 2) += s.SchiffPreis(typ);
+        s.Statistik(EST_DOCK_BAU, 2) += s.SchiffPreis(typ);
     }
 
     sch.Name = s.SchiffKlasse(typ);
@@ -72,30 +72,30 @@ void SCHIFF_NEU(Spiel& s, int typ) {
     sch.Tankgroesse = 30;
     sch.Supersprit = 0;
     sch.Schaden = 0;
-    sch.Zustand = -1;
+    sch.Zustand = ZUSTAND_WERFT_BAU;
     sch.Planet = SOL_III;
     sch.Besitzer = static_cast<Integer>(p);
     sch.Partner = sch.StartPlanet = sch.Ladung = 0;
     sch.Fracht = {};
     // Selling Flopse makes the yards slow: a fifth more years.
-    if (s.Statistik(16, p) > 0) sch.Dauer = static_cast<Integer>(sch.Dauer + sch.Dauer / 5);
+    if (s.Statistik(WARE_FLOPSE, p) > 0) sch.Dauer = static_cast<Integer>(sch.Dauer + sch.Dauer / 5);
 }
 
 Integer SCHIFF_WERT(const Spiel& s, int schiff) {
     const Schiff& sch = s.Schiffe(schiff);
     const double f = (1.0 - sch.Schaden / 100.0) * 0.8;
     double b;
-    if (sch.Typ == "SST ") b = 1000 + 0.7 * (sch.Laderaum - 10) + 50 * sch.Bewaffnung;
-    else if (sch.Typ == "TST ") b = 900 + 0.7 * (sch.Laderaum - 10) + 50 * sch.Bewaffnung;
-    else if (sch.Typ == "FSS ") b = 750 + 70 * (sch.Bewaffnung - 4);
-    else if (sch.Typ == "TSR ") b = 2000 + 50 * sch.Bewaffnung;
+    if (sch.Typ == TYP_FRACHTER) b = 1000 + 0.7 * (sch.Laderaum - 10) + 50 * sch.Bewaffnung;
+    else if (sch.Typ == TYP_TANKER) b = 900 + 0.7 * (sch.Laderaum - 10) + 50 * sch.Bewaffnung;
+    else if (sch.Typ == TYP_KREUZER) b = 750 + 70 * (sch.Bewaffnung - 4);
+    else if (sch.Typ == TYP_STATION) b = 2000 + 50 * sch.Bewaffnung;
     else b = 400;
     return static_cast<Integer>(std::nearbyint(f * b));
 }
 
 bool SCHIFF_VERKAEUFLICH(const Spiel& s, int schiff) {
     const Schiff& sch = s.Schiffe(schiff);
-    return !sch.Typ.empty() && sch.Besitzer == s.AktSpieler && sch.Planet == SOL_III && sch.Zustand == 0 &&
+    return !sch.Typ.empty() && sch.Besitzer == s.AktSpieler && sch.Planet == SOL_III && sch.Zustand == ZUSTAND_RUHT &&
            sch.Partner == 0;
 }
 
@@ -106,85 +106,35 @@ void VerkaufZeigen(Spiel& s, int schiff) {
     TEXT_AUSGEBEN(s, "Verkaufswert: " + Rechtsbuendig(SCHIFF_WERT(s, schiff), 5), 15, 50, 660, WEISS);
 }
 
-// From n (inclusive) upward, round past HoechstesSchiff, to a sellable ship.
-int NaechsterVerkaeuflicher(const Spiel& s, int n, int schritt) {
-    for (int versuch = 0; versuch <= s.HoechstesSchiff + 1; ++versuch) {
-        if (n > s.HoechstesSchiff) n = 1;
-        if (n < 1) n = s.HoechstesSchiff;
-        if (SCHIFF_VERKAEUFLICH(s, n)) return n;
-        n += schritt;
-    }
-    return 0;
-}
-
 }  // namespace
 
 void SCHIFF_VERKAUFEN(Spiel& s) {
-    int schiff = 0;
-    for (int i = 1; i <= s.HoechstesSchiff && schiff == 0; ++i)
-        if (SCHIFF_VERKAEUFLICH(s, i)) schiff = i;
+    auto verkaeuflich = [&s](int n) { return SCHIFF_VERKAEUFLICH(s, n); };
+    int schiff = NAECHSTES_SCHIFF(1, 1, s.HoechstesSchiff, verkaeuflich);
     if (schiff == 0) return;
     VerkaufZeigen(s, schiff);
     TEXT_AUSGEBEN(s, T("Bitte Raumschiff wählen!"), 15, 50, 630, WEISS);
 
-    s.TasteDa = 0;
-    for (;;) {
-        s.plattform->schlafen(5);
-        DoEvents(s);
-        if (s.TasteDa == 0) continue;
-        const int code = s.TastenCode;
-        s.TasteDa = 0;
-        if (code == Taste::Esc) return;
-        if (code == Taste::Hoch || code == Taste::Runter) {
-            const int schritt = code == Taste::Hoch ? 1 : -1;
-            schiff = NaechsterVerkaeuflicher(s, schiff + schritt, schritt);
-            VerkaufZeigen(s, schiff);
-        } else if (code == Taste::Leer) {
-            long n = 0;
-            auto zeigen = [&] {
-                TEXT_AUSGEBEN(s, "Nummer: " + Space(4 - static_cast<int>(Str(n).size())) + std::to_string(n), 15, 50,
-                              690, ROT);
-            };
-            zeigen();
-            for (;;) {
-                s.plattform->schlafen(5);
-                DoEvents(s);
-                if (s.TasteDa == 0) continue;
-                const int c = s.TastenCode;
-                if (c == Taste::Enter) break;
-                s.TasteDa = 0;
-                if (c == Taste::Esc) return;
-                if (c >= '0' && c <= '9') {
-                    if (n * 10 + (c - '0') < s.HoechstesSchiff + 1) n = n * 10 + (c - '0');
-                } else if (c == Taste::Backspace) {
-                    n /= 10;
-                }
-                zeigen();
-            }
-            s.TasteDa = 0;
-            TEXT_AUSGEBEN(s, Space(13), 15, 50, 690, WEISS);
-            if (n == 0) n = 1;
-            schiff = NaechsterVerkaeuflicher(s, static_cast<int>(n), 1);
-            VerkaufZeigen(s, schiff);
-        } else if (code == Taste::Enter) {
-            Schiff& sch = s.Schiffe(schiff);
-            s.Bargeld(s.AktSpieler) += SCHIFF_WERT(s, schiff);
-            sch.Typ.clear();
-            sch.Name.clear();
-            sch.Besitzer = 0;
-            sch.Zustand = 0;
-            sch.Planet = SOL_III;
-            sch.Dauer = 0;
-            sch.Partner = 0;
-            if (s.LetztesSchiff == schiff) {
-                int j = schiff;
-                do {
-                    ++j;
-                    if (j > s.HoechstesSchiff) j = 1;
-                } while (j != schiff && !(s.Schiffe(j).Besitzer == s.AktSpieler && !s.Schiffe(j).Typ.empty()));
-                s.LetztesSchiff = static_cast<Integer>(j == schiff ? 0 : j);
-            }
-            return;
-        }
+    SchiffWahl wahl;
+    wahl.passt = verkaeuflich;
+    wahl.zeigen = [&s](int n) { VerkaufZeigen(s, n); };
+    wahl.grenze = s.HoechstesSchiff;
+    wahl.nummerY = 690;
+    wahl.nummerBis = s.HoechstesSchiff;
+    schiff = SCHIFF_WAEHLEN(s, schiff, wahl).schiff;
+    if (schiff == 0) return;
+
+    Schiff& sch = s.Schiffe(schiff);
+    s.Bargeld(s.AktSpieler) += SCHIFF_WERT(s, schiff);
+    SCHIFF_SLOT_LEEREN(sch);
+    sch.Planet = SOL_III;
+    sch.Partner = 0;
+    if (s.LetztesSchiff == schiff) {
+        // The next ship of the player after the one sold, if there is one.
+        const int p = s.AktSpieler;
+        const int j = NAECHSTES_SCHIFF(schiff + 1, 1, s.HoechstesSchiff, [&s, p](int n) {
+            return s.Schiffe(n).Besitzer == p && !IstFrei(s.Schiffe(n));
+        });
+        s.LetztesSchiff = static_cast<Integer>(j == schiff ? 0 : j);
     }
 }

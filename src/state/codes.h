@@ -24,13 +24,13 @@ enum SchiffTypNr : int {
     NR_STATION = 5,
     NR_GROSSFRACHTER = 6,
 };
-inline constexpr int SCHIFF_TYPEN = 6;
+inline constexpr int ANZAHL_SCHIFFSTYPEN = 6;
 
 // Typ of type number 1..6.
 inline const char* TypCode(int nr) {
-    static constexpr const char* CODES[SCHIFF_TYPEN + 1] = {"", TYP_FRACHTER, TYP_TANKER, TYP_KREUZER,
+    static constexpr const char* CODES[ANZAHL_SCHIFFSTYPEN + 1] = {"", TYP_FRACHTER, TYP_TANKER, TYP_KREUZER,
                                                               TYP_SCOUT, TYP_STATION, TYP_GROSSFRACHTER};
-    return nr >= 1 && nr <= SCHIFF_TYPEN ? CODES[nr] : "";
+    return nr >= 1 && nr <= ANZAHL_SCHIFFSTYPEN ? CODES[nr] : "";
 }
 
 // --- Zustand -------------------------------------------------------------------
@@ -60,7 +60,7 @@ inline constexpr int FRACHT_REPARATURSET = 22;  // 0 or 1
 inline constexpr int FRACHT_SUPERSPRIT = 23;    // tank units
 inline constexpr int FRACHT_GERAETE = 24;       // production devices, 2 t each
 inline constexpr int FRACHT_PORTAL = 25;        // 0 or 1; fills the whole hold
-inline constexpr int WAREN = 20;
+inline constexpr int ANZAHL_WAREN = 20;
 
 // Goods that rules name.
 inline constexpr int WARE_MIRELLEN = 10;   // Supersprit is brewed from them
@@ -73,7 +73,7 @@ inline constexpr Integer BESITZER_PIRATEN = 7;
 inline constexpr int SPIELER_MAX = 6;
 
 // --- inventions: the columns of Forschung ---------------------------------------------
-enum Erfindung : int {
+enum ErfindungNr : int {
     ERF_LADERAUM = 1,        // holds of freighters and tankers up to 120 t
     ERF_BRANDSCHUTZ = 2,     // fewer storage fires
     ERF_REPARATURSET = 3,    // repair sets for sale
@@ -86,7 +86,7 @@ enum Erfindung : int {
     ERF_GROSSFRACHTER = 10,
     ERF_PORTAL = 11,
 };
-inline constexpr int ERFINDUNGEN = 11;
+inline constexpr int ANZAHL_ERFINDUNGEN = 11;
 inline constexpr int FORSCHUNG_MILLIONAER = 15;  // column: greeted as a millionaire
 
 // --- the countdown events of EreignisJahre ----------------------------------------------

@@ -6,6 +6,7 @@
 
 #include "state/text.h"
 #include "state/zufall.h"
+#include "state/codes.h"
 
 namespace {
 
@@ -199,8 +200,8 @@ void VORBELEGUNG_VARIABLEN(Spiel& s) {
 
     // 5. the first year, the pirates and their headquarters
     s.Jahr = 2000;
-    s.SpielerName(7) = "Piraten";
-    s.Schiffe(PIRATEN_HQ).Besitzer = 7;
+    s.SpielerName(BESITZER_PIRATEN) = "Piraten";
+    s.Schiffe(PIRATEN_HQ).Besitzer = BESITZER_PIRATEN;
 
     // 6. the news
     s.MeldungText(1) = "    -- keine aktuellen Meldungen --    ";

@@ -6,6 +6,7 @@
 #include "screen/ausgabe.h"
 #include "state/sterne.h"
 #include "state/text.h"
+#include "state/codes.h"
 
 namespace {
 
@@ -23,7 +24,7 @@ void Balken(Spiel& s, int y1, int y2, double bis, Farbe c, bool weissDahinter) {
 void Tankanzeige(Spiel& s, const Schiff& sch) {
     const double t = sch.Treibstoff, g = sch.Tankgroesse > 0 ? sch.Tankgroesse : 30;
     const Farbe c = sch.Supersprit != 0 ? GRUEN : MAGENTA;
-    if (sch.Typ != "XXL ") {
+    if (sch.Typ != TYP_GROSSFRACHTER) {
         Balken(s, 235, 245, 200 + 200 * t / g, c, t < g);
         return;
     }
@@ -61,18 +62,18 @@ struct Frachtzeile {
 
 void Frachtsymbole(Spiel& s, const Schiff& sch) {
     Frachtzeile z{s};
-    if (sch.Typ == "SST " || sch.Typ == "TSR " || sch.Typ == "XXL ") {
-        if (sch.Fracht(24) > 0) {
+    if (sch.Typ == TYP_FRACHTER || sch.Typ == TYP_STATION || sch.Typ == TYP_GROSSFRACHTER) {
+        if (sch.Fracht(FRACHT_GERAETE) > 0) {
             z.x = 30;
-            for (int i = 0; i < sch.Fracht(24); ++i) z.bild(T("Geräte"), 20);
+            for (int i = 0; i < sch.Fracht(FRACHT_GERAETE); ++i) z.bild(T("Geräte"), 20);
             z.weiter(10);
         }
         for (int g = 1; g <= 20; ++g)
             for (int i = 0; i < sch.Fracht(g); ++i) z.bild(s.WarenName(g), 10);
         for (int i = 0; i < sch.Laderaum - sch.Ladung; ++i) z.bild("Leer", 10);
-    } else if (sch.Typ == "TST ") {
-        for (int i = 0; i < sch.Fracht(21); ++i) z.bild("Tank", 10);
-        for (int i = 0; i < sch.Fracht(23); ++i) z.bild("Supersprit", 10);
+    } else if (sch.Typ == TYP_TANKER) {
+        for (int i = 0; i < sch.Fracht(FRACHT_SPRIT); ++i) z.bild("Tank", 10);
+        for (int i = 0; i < sch.Fracht(FRACHT_SUPERSPRIT); ++i) z.bild("Supersprit", 10);
         for (int i = 0; i < sch.Laderaum - sch.Ladung; ++i) z.bild("Leer", 10);
     }
 }
@@ -81,8 +82,8 @@ void Frachtsymbole(Spiel& s, const Schiff& sch) {
 
 int RESTJAHRE(const Spiel& s, const Schiff& sch) {
     const int d = sch.Dauer;
-    if (sch.Supersprit == 0) return sch.Typ == " XS " ? (d + 1) / 2 : d;
-    if (sch.Typ == " XS ") return (d + 2) / 3;
+    if (sch.Supersprit == 0) return sch.Typ == TYP_SCOUT ? (d + 1) / 2 : d;
+    if (sch.Typ == TYP_SCOUT) return (d + 2) / 3;
     int jahre = 2 * (d / 3) + d % 3;
     if (s.Jahr % 2 == 0 && d == 2) --jahre;
     return jahre;
@@ -94,36 +95,36 @@ void SCHIFF_ANZEIGEN(Spiel& s, int nr) {
     DoEvents(s);
     TEXT_AUSGEBEN(s, sch.Name + "   " + sch.Typ + " " + std::to_string(nr), 15, X, 110, MAGENTA);
 
-    const bool gekoppelt = sch.Partner != 0 && sch.Zustand != 2;
+    const bool gekoppelt = sch.Partner != 0 && sch.Zustand != ZUSTAND_ANGRIFF;
     if (gekoppelt) {
         BILD(s, "Frachter", 400, 120);
         BILD(s, "Raumstation", 330, 120);
     } else {
         std::string bild = T("Großfrachter");
-        if (sch.Typ == "SST " || sch.Typ == "TST ") bild = "Frachter";
-        else if (sch.Typ == "FSS ") bild = "Kreuzer";
-        else if (sch.Typ == " XS ") bild = "Scout";
-        else if (sch.Typ == "TSR ") bild = "Raumstation";
+        if (sch.Typ == TYP_FRACHTER || sch.Typ == TYP_TANKER) bild = "Frachter";
+        else if (sch.Typ == TYP_KREUZER) bild = "Kreuzer";
+        else if (sch.Typ == TYP_SCOUT) bild = "Scout";
+        else if (sch.Typ == TYP_STATION) bild = "Raumstation";
         BILD(s, bild, 400, 120);
     }
 
     if (sch.Planet >= 1 && sch.Planet <= MAX_PLANETEN)
         TEXT_AUSGEBEN(s, "Ziel: " + PlanetenName(s, sch.Planet), 15, X, 140, MAGENTA);
 
-    if (sch.Zustand == 0) {
-        TEXT_AUSGEBEN(s, sch.Typ == "TSR " ? "- im Orbit -" : "- gelandet -", 15, X, 170, MAGENTA);
-    } else if (sch.Zustand == 1) {
+    if (sch.Zustand == ZUSTAND_RUHT) {
+        TEXT_AUSGEBEN(s, sch.Typ == TYP_STATION ? "- im Orbit -" : "- gelandet -", 15, X, 170, MAGENTA);
+    } else if (sch.Zustand == ZUSTAND_FLIEGT) {
         TEXT_AUSGEBEN(s, "Entfernung: " + std::to_string(ENTFERNUNG(s, sch.Planet, sch.StartPlanet)), 15, X, 170,
                       MAGENTA);
         TEXT_AUSGEBEN(s, "Dauer:      " + std::to_string(RESTJAHRE(s, sch)), 15, X, 200, MAGENTA);
-    } else if (sch.Zustand == 2) {
+    } else if (sch.Zustand == ZUSTAND_ANGRIFF) {
         if (sch.Partner == PIRATEN_HQ) {
             TEXT_AUSGEBEN(s, "- im Angriff auf Hauptquartier -", 15, X, 170, MAGENTA);
         } else if (sch.Partner >= 1 && sch.Partner <= MAX_SCHIFFE) {
             TEXT_AUSGEBEN(s, "- im Angriff auf " + s.Schiffe(sch.Partner).Typ + std::to_string(sch.Partner) + " -", 15,
                           X, 170, MAGENTA);
         }
-    } else if (sch.Zustand < 0) {
+    } else if (InWerft(sch)) {
         TEXT_AUSGEBEN(s, "- in der Werft -", 15, X, 170, MAGENTA);
         TEXT_AUSGEBEN(s, "Dauer:      " + std::to_string(sch.Dauer), 15, X, 200, MAGENTA);
     }
@@ -143,19 +144,19 @@ void SCHIFF_ANZEIGEN(Spiel& s, int nr) {
     }
 
     if (sch.Tankgroesse == 40) BILD(s, "DTW-Filter", 400, 300);
-    if (sch.Fracht(22) == 1) BILD(s, "Reparaturset", 370, 300);
+    if (sch.Fracht(FRACHT_REPARATURSET) == 1) BILD(s, "Reparaturset", 370, 300);
 
-    if (sch.Typ == "TSR " && sch.Partner == 0) {
-        if (s.Forschung(6, s.AktSpieler) == -1) {
-            if (sch.Fracht(21) > 0) TEXT_AUSGEBEN(s, "Tankeinheiten: Normal: " + Str(sch.Fracht(21)), 15, X, 470, MAGENTA);
-            if (sch.Fracht(23) > 0) {
-                TEXT_AUSGEBEN(s, "               Super:  " + Str(sch.Fracht(23)), 15, X, 500, MAGENTA);
-                if (sch.Fracht(21) == 0) TEXT_AUSGEBEN(s, "Tankeinheiten:", 15, X, 500, MAGENTA);
+    if (sch.Typ == TYP_STATION && sch.Partner == 0) {
+        if (Erfunden(s, ERF_SUPERSPRIT, s.AktSpieler)) {
+            if (sch.Fracht(FRACHT_SPRIT) > 0) TEXT_AUSGEBEN(s, "Tankeinheiten: Normal: " + Str(sch.Fracht(FRACHT_SPRIT)), 15, X, 470, MAGENTA);
+            if (sch.Fracht(FRACHT_SUPERSPRIT) > 0) {
+                TEXT_AUSGEBEN(s, "               Super:  " + Str(sch.Fracht(FRACHT_SUPERSPRIT)), 15, X, 500, MAGENTA);
+                if (sch.Fracht(FRACHT_SPRIT) == 0) TEXT_AUSGEBEN(s, "Tankeinheiten:", 15, X, 500, MAGENTA);
             }
-        } else if (sch.Fracht(21) > 0) {
-            TEXT_AUSGEBEN(s, "Tankeinheiten: " + Str(sch.Fracht(21)), 15, X, 470, MAGENTA);
+        } else if (sch.Fracht(FRACHT_SPRIT) > 0) {
+            TEXT_AUSGEBEN(s, "Tankeinheiten: " + Str(sch.Fracht(FRACHT_SPRIT)), 15, X, 470, MAGENTA);
         }
     }
-    if (sch.Fracht(25) == 1) BILD(s, "Portal", 140, 360);
+    if (sch.Fracht(FRACHT_PORTAL) == 1) BILD(s, "Portal", 140, 360);
     DoEvents(s);
 }

@@ -15,9 +15,7 @@ void SCHIFF_ENTFERNEN(Spiel& s, int schiff) {
 }
 
 namespace {
-void Verlust(Spiel& s) {
-    if (s.AnzahlSpieler == 1) s.Statistik(13, 2) += 1;
-}
+void Verlust(Spiel& s) { EINSTATISTIK(s, EST_VERLORENE_SCHIFFE, 1); }
 }  // namespace
 
 
@@ -40,14 +38,14 @@ void PLANETEN_PRODUKTION(Spiel& s) {
 void SCHIFF_FLUG(Spiel& s, int i) {
     Schiff& sch = s.Schiffe(i);
     const int j = static_cast<int>(s.Jahr % 2);
-    const bool xxl = sch.Typ == "XXL ";
+    const bool xxl = sch.Typ == TYP_GROSSFRACHTER;
     if (sch.Supersprit == 0) {
         sch.Treibstoff -= xxl ? 0.5f : 1.0f;
-        sch.Dauer = static_cast<Integer>(sch.Dauer - (sch.Typ == " XS " ? 2 : 1));
+        sch.Dauer = static_cast<Integer>(sch.Dauer - (sch.Typ == TYP_SCOUT ? 2 : 1));
     } else {
         if (sch.Dauer == 1) sch.Treibstoff -= xxl ? 0.5f : 1.0f;
         else sch.Treibstoff -= xxl ? 0.5f + j / 2.0f : 1.0f + j;
-        sch.Dauer = static_cast<Integer>(sch.Dauer - (sch.Typ == " XS " ? 3 : 1 + j));
+        sch.Dauer = static_cast<Integer>(sch.Dauer - (sch.Typ == TYP_SCOUT ? 3 : 1 + j));
     }
     if (sch.Treibstoff < 0) {
         MELDUNG_NEU(s, LABEL(s, i) + " ist verloren: Treibstoffmangel", ROT);
@@ -60,7 +58,7 @@ void SCHIFF_FLUG(Spiel& s, int i) {
             SCHIFF_ENTFERNEN(s, partner);
         }
     }
-    if (sch.Dauer < 1 && sch.Besitzer >= 1 && sch.Besitzer <= 6) SCHIFF_LANDUNG(s, i);
+    if (sch.Dauer < 1 && IstSpielerBesitz(sch)) SCHIFF_LANDUNG(s, i);
 }
 
 void SCHIFF_LANDUNG(Spiel& s, int i) {
@@ -73,7 +71,7 @@ void SCHIFF_LANDUNG(Spiel& s, int i) {
     }
     MELDUNG_NEU(s, (LABEL(s, i) + " (" + s.SpielerName(sch.Besitzer) + ") gelandet auf " + PlanetenName(s, sch.Planet)).substr(0, 40),
                 CYAN);
-    if ((sch.Typ == "SST " || sch.Typ == "XXL ") && sch.Planet == SOL_III) {
+    if ((sch.Typ == TYP_FRACHTER || sch.Typ == TYP_GROSSFRACHTER) && sch.Planet == SOL_III) {
         // Home: the goods go into the storage; a portal and devices stay aboard.
         auto entladen = [&](Schiff& f) {
             for (int g = 1; g <= 20; ++g) {
@@ -81,11 +79,11 @@ void SCHIFF_LANDUNG(Spiel& s, int i) {
                 s.Lager(g, sch.Besitzer) = static_cast<Integer>(neu > 32767 ? 32767 : neu);
                 f.Fracht(g) = 0;
             }
-            f.Ladung = static_cast<Integer>(f.Laderaum * f.Fracht(25) + 2 * f.Fracht(24));
+            f.Ladung = static_cast<Integer>(f.Laderaum * f.Fracht(FRACHT_PORTAL) + 2 * f.Fracht(FRACHT_GERAETE));
         };
         entladen(sch);
         if (partner) entladen(*partner);
-    } else if (sch.Planet > 3 && s.Dokument(sch.Planet).Produktion == 0) {
+    } else if (sch.Planet > SOL_III && s.Dokument(sch.Planet).Produktion == 0) {
         const int e = ENTFERNUNG(s, SOL_III, sch.Planet);
         MELDUNG_NEU(s, T("    Erstlandungsprämie: ") + std::to_string(2 * e), CYAN);
         s.Bargeld(sch.Besitzer) += 2 * e;
@@ -115,7 +113,7 @@ void STATION_JAHR(Spiel& s, int i) {
         st.Ladung = static_cast<Integer>(st.Ladung + t);
         st.Fracht(p.Ware) = static_cast<Integer>(st.Fracht(p.Ware) + t);
         s.Bargeld(st.Besitzer) -= t * p.Preis;
-        if (s.AnzahlSpieler == 1) s.Statistik(2, 2) += t * p.Preis;
+        EINSTATISTIK(s, EST_WARENEINKAUF, t * p.Preis);
         p.Bestand %= 100;
     } else {
         MELDUNG_NEU(s, "TSR " + std::to_string(i) + T(" ist übervoll!"), CYAN);
@@ -130,21 +128,19 @@ void STATION_JAHR(Spiel& s, int i) {
 void WERFT_JAHR(Spiel& s, int i) {
     Schiff& sch = s.Schiffe(i);
     sch.Dauer = static_cast<Integer>(sch.Dauer - 1);
-    const int auftrag = sch.Zustand >= -5 && sch.Zustand <= -1 ? -sch.Zustand : 5;
-    if (s.AnzahlSpieler == 1) {
-        s.Statistik(5, 2) += 1;
-        s.Statistik(16 + auftrag, 2) += 1;
-    }
+    const int auftrag = sch.Zustand >= ZUSTAND_WERFT_DTW && sch.Zustand <= ZUSTAND_WERFT_BAU ? -sch.Zustand : 5;
+    EINSTATISTIK(s, EST_DOCK_BELEGT, 1);
+    EINSTATISTIK(s, EST_BELEGT_BAU + (auftrag - 1), 1);  // by job, from building on
     if (sch.Dauer != 0) return;
     const int p = sch.Besitzer;
     if (p < 1 || p > 6) return;
-    const int m = s.Forschung(7, p) == -1 ? 7 : 5;
+    const int m = DockPlaetze(s, p);
     for (int k = 1; k <= m; ++k)
         if (s.DockSchiffe(k, p) == i) s.DockSchiffe(k, p) = 0;
     static const char* const ENDE[] = {"", ") wurde fertig gebaut!", ") hat neuen Laderaum!", ") hat neue Bewaffnung!",
                                        ") wurde repariert!", ") hat den DTW-Filter!"};
     MELDUNG_NEU(s, LABEL(s, i) + " (" + s.SpielerName(p) + ENDE[auftrag], CYAN);
-    sch.Zustand = 0;
+    sch.Zustand = ZUSTAND_RUHT;
     for (int k = 1; k <= m - 1; ++k)
         if (s.DockSchiffe(k, p) == 0) {
             s.DockSchiffe(k, p) = s.DockSchiffe(k + 1, p);
@@ -156,9 +152,9 @@ void ABNUTZUNG(Spiel& s, int i) {
     Schiff& sch = s.Schiffe(i);
     if (sch.Besitzer <= 0) return;
     if (!(Rnd(s) < 0.01f)) return;
-    if (sch.Besitzer == 7) {
+    if (sch.Besitzer == BESITZER_PIRATEN) {
         if (!(Rnd(s) > 0.7f)) return;
-    } else if (sch.Zustand < 0) {
+    } else if (InWerft(sch)) {
         return;
     }
     MELDUNG_NEU(s, LABEL(s, i) + " : Leichter Abnutzungsschaden", CYAN);
@@ -168,9 +164,9 @@ void ABNUTZUNG(Spiel& s, int i) {
 void HAENDLER_JAHR(Spiel& s) {
     for (int i = HAENDLER_ERSTES; i <= HAENDLER_LETZTES; ++i) {
         Schiff& h = s.Schiffe(i);
-        if (h.Zustand == 1) {
+        if (h.Zustand == ZUSTAND_FLIEGT) {
             h.Dauer = static_cast<Integer>(h.Dauer - 1);
-            if (h.Dauer == 0) h.Zustand = 0;
+            if (h.Dauer == 0) h.Zustand = ZUSTAND_RUHT;
             continue;
         }
         if (!(Rnd(s) < 0.2f) || s.AnzahlPlaneten <= 0) continue;
@@ -179,7 +175,7 @@ void HAENDLER_JAHR(Spiel& s) {
             z = static_cast<int>(Rnd(s) * s.AnzahlPlaneten + 11);
             d = ENTFERNUNG(s, h.Planet, z);
         } while (!(d < 31 && z != h.Planet));
-        h.Zustand = 1;
+        h.Zustand = ZUSTAND_FLIEGT;
         h.Dauer = static_cast<Integer>(d);
         h.Planet = static_cast<Integer>(z);
     }

@@ -13,13 +13,13 @@ void SCHIFF_BESCHAEDIGEN(Spiel&, int) {}
 void PARTNER_PRUEFEN(Spiel& s) {
     for (int i = 1; i <= s.HoechstesSchiff; ++i) {
         Schiff& sch = s.Schiffe(i);
-        if (sch.Typ == "SST " || sch.Partner <= 0 || sch.Typ.empty()) continue;
+        if (sch.Typ == TYP_FRACHTER || sch.Partner <= 0 || sch.Typ.empty()) continue;
         if (sch.Partner <= MAX_SCHIFFE) {
             const Schiff& p = s.Schiffe(sch.Partner);
             if (p.Besitzer != 0 && p.Planet == sch.Planet) continue;
         }
         sch.Partner = 0;
-        if (!(sch.Besitzer == 7 && sch.Zustand == 1)) sch.Zustand = 0;
+        if (!(sch.Besitzer == BESITZER_PIRATEN && sch.Zustand == ZUSTAND_FLIEGT)) sch.Zustand = ZUSTAND_RUHT;
     }
 }
 
@@ -27,27 +27,27 @@ void ZERSTOERTE_ENTFERNEN(Spiel& s) {
     for (int i = 1; i <= s.HoechstesSchiff; ++i) {
         Schiff& sch = s.Schiffe(i);
         if (sch.Schaden <= 99 || sch.Besitzer <= 0) continue;
-        const bool pirat = sch.Besitzer == 7;
-        if (sch.Partner > 0 && sch.Partner <= MAX_SCHIFFE && sch.Zustand != 2) {
+        const bool pirat = sch.Besitzer == BESITZER_PIRATEN;
+        if (sch.Partner > 0 && sch.Partner <= MAX_SCHIFFE && sch.Zustand != ZUSTAND_ANGRIFF) {
             Schiff& p = s.Schiffe(sch.Partner);
-            if (sch.Zustand == 1) {
+            if (sch.Zustand == ZUSTAND_FLIEGT) {
                 SCHIFF_ENTFERNEN(s, sch.Partner);
                 p.Partner = 0;
-                if (s.AnzahlSpieler == 1 && !pirat) s.Statistik(13, 2) += 1;
-            } else if (sch.Typ == "SST ") {
+                if (!pirat) EINSTATISTIK(s, EST_VERLORENE_SCHIFFE, 1);
+            } else if (sch.Typ == TYP_FRACHTER) {
                 p.Planet = sch.Planet;
                 p.Partner = 0;
-                p.Zustand = 0;
+                p.Zustand = ZUSTAND_RUHT;
             } else {
                 p.Partner = 0;
             }
         }
         SCHIFF_ENTFERNEN(s, i);
         sch.Partner = 0;
-        if (s.AnzahlSpieler == 1 && !pirat) s.Statistik(13, 2) += 1;
+        if (!pirat) EINSTATISTIK(s, EST_VERLORENE_SCHIFFE, 1);
         for (int k = 1; k <= s.HoechstesSchiff; ++k)
-            if (s.Schiffe(k).Partner == i && s.Schiffe(k).Zustand == 2) {
-                s.Schiffe(k).Zustand = 0;
+            if (s.Schiffe(k).Partner == i && s.Schiffe(k).Zustand == ZUSTAND_ANGRIFF) {
+                s.Schiffe(k).Zustand = ZUSTAND_RUHT;
                 s.Schiffe(k).Partner = 0;
             }
     }

@@ -8,9 +8,10 @@
 #include "year/jahresende.h"
 #include "year/kampf.h"
 #include "year/meldung.h"
+#include "state/codes.h"
 
 void RUNDE_AUSFUEHREN(Spiel& s) {
-    if (s.AnzahlSpieler == 1) s.Statistik(16, 2) += s.Forschung(7, 1) == -1 ? 7 : 5;
+    EINSTATISTIK(s, EST_DOCK_ANGEBOTEN, DockPlaetze(s, 1));
     MCI_Stop(s);
     if (s.SichernAmRundenende == -1) {
         if (s.haken.Sichern) s.haken.Sichern(s);
@@ -35,11 +36,11 @@ void RUNDE_AUSFUEHREN(Spiel& s) {
     for (int i = 1; i <= s.HoechstesSchiff; ++i) {
         Schiff& sch = s.Schiffe(i);
         if (sch.Typ.empty()) continue;
-        if (sch.Besitzer == 7) PIRAT_IM_SCHIFFSDURCHLAUF(s, i);
-        else if (sch.Typ == "TSR " && sch.Zustand == 0) STATION_JAHR(s, i);
-        else if (sch.Zustand == 1) SCHIFF_FLUG(s, i);
-        else if (sch.Zustand == 2) ANGRIFFSBERICHT(s, i);
-        else if (sch.Zustand < 0) WERFT_JAHR(s, i);
+        if (sch.Besitzer == BESITZER_PIRATEN) PIRAT_IM_SCHIFFSDURCHLAUF(s, i);
+        else if (sch.Typ == TYP_STATION && sch.Zustand == ZUSTAND_RUHT) STATION_JAHR(s, i);
+        else if (sch.Zustand == ZUSTAND_FLIEGT) SCHIFF_FLUG(s, i);
+        else if (sch.Zustand == ZUSTAND_ANGRIFF) ANGRIFFSBERICHT(s, i);
+        else if (InWerft(sch)) WERFT_JAHR(s, i);
         HAUPTQUARTIER_FEUER(s, i);
         ABNUTZUNG(s, i);
         SCHIFF_BESCHAEDIGEN(s, i);
