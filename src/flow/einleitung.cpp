@@ -7,6 +7,7 @@
 #include "flow/programm.h"
 #include "orders/schiffe.h"
 #include "screen/ausgabe.h"
+#include "screen/dialog.h"
 #include "screen/eingabe.h"
 #include "screen/musik.h"
 #include "state/regeln.h"
@@ -75,12 +76,7 @@ int Frage(Spiel& s, const std::string& text, int y, int x, const std::vector<con
 Long Startkapital(Spiel& s) {
     s.Eingabe = 0;
     for (;;) {
-        s.TasteDa = 0;
-        while (s.TasteDa == 0) {
-            s.plattform->schlafen(5);
-            DoEvents(s);
-        }
-        const int c = s.TastenCode;
+        const int c = TASTE_ABWARTEN(s);
         if (c == Taste::Enter) return s.Eingabe;
         if (c >= '0' && c <= '9') {
             if (s.Eingabe >= 1001 || (s.Eingabe == 1000 && c != '0')) continue;

@@ -138,12 +138,8 @@ void ZIEL_WAEHLEN(Spiel& s, int schiff) {
     bool richtung = false;
     Cursor(s, z, WEISS);
     Beschriftung(s, schiff, z);
-    s.TasteDa = 0;
     for (;;) {
-        s.plattform->schlafen(5);
-        DoEvents(s);
-        if (s.TasteDa == 0) continue;
-        const int c = s.TastenCode;
+        const int c = TASTE_ABWARTEN(s);
         if (c == Taste::Esc) {
             s.Eingabe = -1;
             return;
@@ -181,7 +177,6 @@ void ZIEL_WAEHLEN(Spiel& s, int schiff) {
             Cursor(s, z, WEISS);
         }
         Beschriftung(s, schiff, z);
-        s.TasteDa = 0;
     }
 }
 
@@ -208,12 +203,8 @@ void ORDER_TELEPORTIEREN(Spiel& s, int schiff) {
     STERNKARTE(s);
     Portalname(s, t);
     Cursor(s, t, WEISS);
-    s.TasteDa = 0;
     for (;;) {
-        s.plattform->schlafen(5);
-        DoEvents(s);
-        if (s.TasteDa == 0) continue;
-        const int c = s.TastenCode;
+        const int c = TASTE_ABWARTEN(s);
         if (c == Taste::Esc) return;
         if (c == Taste::Enter) break;
         if (c == Taste::Hoch || c == Taste::Runter) {
@@ -228,7 +219,6 @@ void ORDER_TELEPORTIEREN(Spiel& s, int schiff) {
             Portalname(s, t);
             Cursor(s, t, WEISS);
         }
-        s.TasteDa = 0;
     }
     Schiff& sch = s.Schiffe(schiff);
     sch.StartPlanet = static_cast<Integer>(-sch.Planet);

@@ -158,11 +158,12 @@ void ZAHL_EINGEBEN(Spiel& s, long long min, long long max, int x, int y, int gro
             return;
         }
         if (code == Taste::Hoch) {
-            if (s.Eingabe < max) ++s.Eingabe;
+            // Held at Max even where Blank, Backspace or M left the value beyond it.
+            s.Eingabe = static_cast<Long>(std::min<long long>(static_cast<long long>(s.Eingabe) + 1, max));
             ersteZiffer = true;
             zeigen();
         } else if (code == Taste::Runter) {
-            if (s.Eingabe > min) --s.Eingabe;
+            s.Eingabe = static_cast<Long>(std::max<long long>(static_cast<long long>(s.Eingabe) - 1, min));
             ersteZiffer = true;
             zeigen();
         } else if (code >= '0' && code <= '9') {

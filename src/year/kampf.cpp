@@ -13,7 +13,9 @@ void SCHIFF_BESCHAEDIGEN(Spiel&, int) {}
 void PARTNER_PRUEFEN(Spiel& s) {
     for (int i = 1; i <= s.HoechstesSchiff; ++i) {
         Schiff& sch = s.Schiffe(i);
-        if (sch.Typ == TYP_FRACHTER || sch.Partner <= 0 || sch.Typ.empty()) continue;
+        // A freighter keeps its station; every other slot, emptied ones too,
+        // lets go of a partner that is gone or elsewhere.
+        if (IstFrachter(sch) || sch.Partner <= 0) continue;
         if (sch.Partner <= MAX_SCHIFFE) {
             const Schiff& p = s.Schiffe(sch.Partner);
             if (p.Besitzer != 0 && p.Planet == sch.Planet) continue;

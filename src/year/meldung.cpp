@@ -37,7 +37,6 @@ void MELDUNG(Spiel& s) {
     const bool einzelseite = s.MeldungAnzahl < 20;
     const int zeilen = einzelseite ? 19 : 17;
     const int erste = einzelseite ? 1 : 17 * s.MeldungSeite - 16;
-    if (!einzelseite) TEXT_AUSGEBEN(s, "< F3: Weitere Meldungen >", 15, 610, 705, GELB);
     int r = 1;
     for (; r <= zeilen; ++r) {
         const int n = erste + r - 1;
@@ -52,13 +51,15 @@ void MELDUNG(Spiel& s) {
         if (gefunden) k.Schiff = schiff;
         else if (s.MeldungPlanet(n) >= 0) k.Planet = s.MeldungPlanet(n);
     }
+    if (!einzelseite) TEXT_AUSGEBEN(s, "< F3: Weitere Meldungen >", 15, 610, 705, GELB);
     for (; r <= KLICK_ZEILEN; ++r) s.KlickFelder(r) = KlickFeld{0, 0, 0, 0, -1, -1};
 }
 
 void MELDUNG_NEU(Spiel& s, const std::string& text, Farbe farbe, Long planet) {
-    if (s.MeldungAnzahl >= MELDUNGEN_MAX - 1) {
-        // The table is full: the last line counts what could not be told.
-        ++s.MeldungenAusgelassen;
+    if (s.MeldungAnzahl >= MELDUNGEN_MAX) {
+        // The table is full: its last line gives way to a count of what
+        // could not be told, itself and every line after it.
+        s.MeldungenAusgelassen = s.MeldungenAusgelassen == 0 ? 2 : s.MeldungenAusgelassen + 1;
         s.MeldungAnzahl = MELDUNGEN_MAX;
         s.MeldungText(MELDUNGEN_MAX) = "-- " + std::to_string(s.MeldungenAusgelassen) + " weitere Meldungen fehlen --";
         s.MeldungFarbe(MELDUNGEN_MAX) = ROT;

@@ -76,6 +76,10 @@ class Leinwand:
         self.w, self.h = w, h
         self.pix = [list(grund) for _ in range(w * h)]
 
+    def spiegeln(self):
+        """Mirrors the picture left to right."""
+        self.pix = [self.pix[y * self.w + (self.w - 1 - x)] for y in range(self.h) for x in range(self.w)]
+
     # ------------------------------------------------------------ Pixel
     def drin(self, x, y):
         return 0 <= x < self.w and 0 <= y < self.h

@@ -343,6 +343,9 @@ def piraten(b, klein):
     for y in (33, 40):
         duese(z, 6, y, 3.6)
         z.flamme(6, y, 9, 2.6, ROT_KERN, ROT_SCHEIN)
+    # Pirates come from the other side: their nose points left, so that the
+    # intro's pirate flies nose first across the screen.
+    b.spiegeln()
     return b
 
 
