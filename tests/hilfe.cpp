@@ -9,6 +9,7 @@
 #include <sstream>
 
 #include "flow/programm.h"
+#include "flow/spielstand.h"
 #include "state/regeln.h"
 #include "state/text.h"
 
@@ -96,3 +97,26 @@ TreiberLauf Treiber(const std::string& skript, const std::string& optionen, cons
     lauf.fehler = Lesen(ordner + "/stderr.txt");
     return lauf;
 }
+
+Spiel ZustandAus(const TreiberLauf& lauf) {
+    Spiel s;
+    std::string fehler;
+    EXPECT_TRUE(SPIELSTAND_LESEN(s, lauf.state, fehler)) << fehler << lauf.fehler;
+    return s;
+}
+
+Spiel NeuesSpielZustand(int spieler, int kapital, const std::string& optionen) {
+    return ZustandAus(Treiber(NeuesSpielSkript(spieler, kapital), optionen));
+}
+
+TreiberLauf GeladenSpielen(const Spiel& s, const std::string& weiter, const std::string& name,
+                           const std::string& optionen) {
+    const std::string daten = DatenKopie(name);
+    std::filesystem::create_directories(daten + "/Daten");
+    std::string fehler;
+    EXPECT_TRUE(SPIELSTAND_DATEI_SCHREIBEN(s, daten + "/Daten/" + name + ".qvt", fehler)) << fehler;
+    return Treiber(LadeSkript() + weiter, optionen, daten);
+}
+
+// The banner takes about three seconds; a key in the scroller ends it.
+std::string LadeSkript() { return "wait 3000\nkey SPACE\nwait 300\nkey N\nkey ENTER\nkey ENTER\n"; }

@@ -54,3 +54,16 @@ std::string NeuesSpielSkript(int spieler, int kapital, const std::vector<std::st
 std::string TempOrdner(const std::string& name);
 // A copy of the project's data folder (star list, music, pictures) to play in.
 std::string DatenKopie(const std::string& name);
+
+// The game in the state a driver run ended with.
+Spiel ZustandAus(const TreiberLauf& lauf);
+// A new game made through the dialog (100 systems), as it stands at its first turn.
+Spiel NeuesSpielZustand(int spieler, int kapital, const std::string& optionen = "--seed 7");
+// The inputs from the program start to a loaded game: the intro ended, "nein"
+// at "Neues Spiel?", the first saved game of the folder chosen. Loading runs
+// one year before the first turn.
+std::string LadeSkript();
+// A prepared game, saved into a fresh copy of the data folder as name.qvt and
+// loaded through the dialog, then played on with the further inputs.
+TreiberLauf GeladenSpielen(const Spiel& s, const std::string& weiter, const std::string& name,
+                           const std::string& optionen = "--seed 7");

@@ -7,13 +7,6 @@
 
 namespace {
 
-Spiel Zustand(const TreiberLauf& lauf) {
-    Spiel s;
-    std::string fehler;
-    EXPECT_TRUE(SPIELSTAND_LESEN(s, lauf.state, fehler)) << fehler << lauf.fehler;
-    return s;
-}
-
 std::string Mal(const std::string& zeile, int n) {
     std::string r;
     for (int i = 0; i < n; ++i) r += zeile;
@@ -24,7 +17,7 @@ std::string Mal(const std::string& zeile, int n) {
 
 TEST(Handel, HinKaufenHeimVerkaufen) {
     const std::string start = NeuesSpielSkript(1, 5000, {"Anna"});
-    const Spiel s0 = Zustand(Treiber(start));
+    const Spiel s0 = ZustandAus(Treiber(start));
     // The nearest star that Tab can reach and a full tank can fly there and back.
     int ziel = 0, tabs = 0, weg = 99;
     for (int k = 1; k < s0.AnzahlPlaneten / 10; ++k) {
@@ -36,7 +29,7 @@ TEST(Handel, HinKaufenHeimVerkaufen) {
 
     // Out: the order, then one year per distance unit.
     const std::string hin = start + "key R\nkey ENTER\nkey ENTER\nkey ENTER\n" + Mal("key TAB\n", tabs) + "key ENTER\n";
-    const Spiel s1 = Zustand(Treiber(hin));
+    const Spiel s1 = ZustandAus(Treiber(hin));
     EXPECT_EQ(s1.Schiffe(1).Zustand, 1);
     EXPECT_EQ(s1.Schiffe(1).StartPlanet, SOL_III);
     EXPECT_EQ(s1.Schiffe(1).Planet, ziel);
@@ -44,7 +37,7 @@ TEST(Handel, HinKaufenHeimVerkaufen) {
 
     const std::string gelandet = hin + Mal("key W\nkey ENTER\n", weg);
     const TreiberLauf l2 = Treiber(gelandet);
-    const Spiel s2 = Zustand(l2);
+    const Spiel s2 = ZustandAus(l2);
     const Planet& p = s2.Dokument(ziel);
     EXPECT_EQ(s2.Schiffe(1).Zustand, 0);
     EXPECT_EQ(s2.Bargeld(1), 5000 + 2 * weg) << "the first-landing prize";
@@ -56,7 +49,7 @@ TEST(Handel, HinKaufenHeimVerkaufen) {
 
     // Buy with M: as much as the stock, the hold and the cash allow.
     const std::string gekauft = gelandet + "key R\nkey ENTER\nkey ENTER\nkey B\nkey ENTER\nkey M\nkey ENTER\n";
-    const Spiel s3 = Zustand(Treiber(gekauft));
+    const Spiel s3 = ZustandAus(Treiber(gekauft));
     const int g = p.Ware;
     const int m = std::min<int>(p.Bestand / 100, 10);
     EXPECT_EQ(s3.Schiffe(1).Fracht(g), m);
@@ -66,7 +59,7 @@ TEST(Handel, HinKaufenHeimVerkaufen) {
 
     // Home with the period key, unloaded into the storage on landing.
     const std::string heim = gekauft + "key R\nkey ENTER\nkey ENTER\nkey ENTER\nkey PERIOD\nkey ENTER\n" + Mal("key W\nkey ENTER\n", weg);
-    const Spiel s4 = Zustand(Treiber(heim));
+    const Spiel s4 = ZustandAus(Treiber(heim));
     EXPECT_EQ(s4.Lager(g, 1), m);
     EXPECT_EQ(s4.Schiffe(1).Fracht(g), 0);
     EXPECT_EQ(s4.Schiffe(1).Planet, SOL_III);
@@ -74,7 +67,7 @@ TEST(Handel, HinKaufenHeimVerkaufen) {
 
     // Sold: cash, storage, statistics, demand and the board.
     const TreiberLauf l5 = Treiber(heim + "key V\nkey ENTER\nkey ENTER\nkey ENTER\n");
-    const Spiel s5 = Zustand(l5);
+    const Spiel s5 = ZustandAus(l5);
     EXPECT_EQ(s5.Lager(g, 1), 0);
     EXPECT_EQ(s5.Statistik(g, 1), m);
     EXPECT_EQ(s5.Bargeld(1), s4.Bargeld(1) + m * s4.Preis(g));
@@ -88,7 +81,7 @@ TEST(Handel, HinKaufenHeimVerkaufen) {
 
 TEST(Handel, NotrufImSelbenZug) {
     const std::string start = NeuesSpielSkript(1, 5000, {"Anna"});
-    const Spiel s = Zustand(Treiber(start + "key R\nkey ENTER\nkey ENTER\nkey ENTER\nkey TAB\nkey TAB\nkey ENTER\n"
+    const Spiel s = ZustandAus(Treiber(start + "key R\nkey ENTER\nkey ENTER\nkey ENTER\nkey TAB\nkey TAB\nkey ENTER\n"
                                             "key R\nkey ENTER\nkey ENTER\nkey ENTER\n"));
     EXPECT_EQ(s.Schiffe(1).Zustand, 0) << "called back before it moved: at rest at home";
     EXPECT_EQ(s.Schiffe(1).Planet, SOL_III);

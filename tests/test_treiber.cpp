@@ -145,3 +145,14 @@ TEST(Treiber, OhneSternlisteUndMusikEineKlareMeldung) {
     EXPECT_EQ(lauf2.status, 1);
     EXPECT_NE(lauf2.fehler.find("Planetenliste.bin"), std::string::npos) << lauf2.fehler;
 }
+
+TEST(Treiber, VorbereiteterSpielstandWirdGeladen) {
+    // A prepared game comes in through "nein" and runs its year first.
+    Spiel s = NeuesSpielZustand(1, 3000);
+    s.Bargeld(1) = 123456;
+    const TreiberLauf lauf = GeladenSpielen(s, "", "vorbereitet");
+    const Spiel g = ZustandAus(lauf);
+    EXPECT_EQ(g.Jahr, s.Jahr + 1);
+    EXPECT_EQ(g.Bargeld(1), 123456);
+    EXPECT_NE(lauf.screen.find("123456"), std::string::npos) << lauf.screen;
+}
