@@ -130,10 +130,10 @@ bool SPIELSTAND_LESEN(Spiel& s, const std::vector<uint8_t>& bytes, std::string& 
     for (auto& pl : neu->Dokument.w) pl = Planet{};
     Leser r{bytes};
     Posten(r, *neu);
-    const Spiel& n = *neu;
-    bool plausibel = n.AnzahlSpieler >= 1 && n.AnzahlSpieler <= 6 && n.AnzahlPlaneten >= 0 &&
-                     n.AnzahlPlaneten <= 4000 && n.HoechstesSchiff >= 0 && n.HoechstesSchiff < 1000;
-    if (!r.gut || !plausibel) {
+    std::string wo = "das Ende der Datei";
+    if (!r.gut || !SPIELSTAND_PRUEFEN(*neu, wo)) {
+        // The player sees the plain refusal; what was wrong goes to the log.
+        std::fprintf(stderr, "Spielstand abgelehnt: %s\n", wo.c_str());
         fehler = T("Der Spielstand ist beschädigt und kann nicht geladen werden.");
         return false;
     }

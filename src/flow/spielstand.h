@@ -12,6 +12,9 @@ std::vector<uint8_t> SPIELSTAND_BYTES(const Spiel& s);
 // Reads the items into s; false (and s untouched) when the bytes run short
 // or hold values no game can have.
 bool SPIELSTAND_LESEN(Spiel& s, const std::vector<uint8_t>& bytes, std::string& fehler);
+// Every index and count of a loaded game within the tables and the game;
+// false with the first value out of range ("Schiffe(12).Planet = 9999").
+bool SPIELSTAND_PRUEFEN(const Spiel& s, std::string& wo);
 // Writes through a temporary file, so a full disk never spoils an old save.
 bool SPIELSTAND_DATEI_SCHREIBEN(const Spiel& s, const std::string& pfad, std::string& fehler);
 std::string DATEN_ORDNER(const Spiel& s);
