@@ -4,3 +4,6 @@
 // The docks on Sol III: build a ship, or have one enlarged, armed, repaired
 // or given the DTW filter.
 void SPACEDOCKS(Spiel& s);
+// Puts a ship into the player's row of the docks, ascending, the empty
+// places behind; the last place must be free.
+void DOCK_EINREIHEN(Spiel& s, int spieler, int schiff);
