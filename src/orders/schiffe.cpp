@@ -3,6 +3,7 @@
 #include <array>
 #include <cmath>
 
+#include "economy/spacedocks.h"
 #include "screen/ausgabe.h"
 #include "screen/dialog.h"
 #include "state/text.h"
@@ -20,13 +21,13 @@ struct SchiffStart {
 
 // Start values of a new ship, by ship type number.
 constexpr std::array<SchiffStart, 6> SCHIFF_START = {{
-    // Typ     Dauer  Laderaum  Bewaffnung      no.
-    {"SST ",   10,    10,       0},          //  1 Frachter
-    {"TST ",   10,    10,       0},          //  2 Tanker
-    {"FSS ",   16,     0,       4},          //  3 Kreuzer
-    {" XS ",   16,     0,       0},          //  4 Scout
-    {"TSR ",   19,    90,       0},          //  5 Raumstation
-    {"XXL ",   25,   200,       0},          //  6 Großfrachter
+    // Typ              Dauer  Laderaum  Bewaffnung      no.
+    {TYP_FRACHTER,       10,    10,       0},          //  1 Frachter
+    {TYP_TANKER,         10,    10,       0},          //  2 Tanker
+    {TYP_KREUZER,        16,     0,       4},          //  3 Kreuzer
+    {TYP_SCOUT,          16,     0,       0},          //  4 Scout
+    {TYP_STATION,        19,    90,       0},          //  5 Raumstation
+    {TYP_GROSSFRACHTER,  25,   200,       0},          //  6 Großfrachter
 }};
 static_assert(SCHIFF_START.size() == 6, "six ship types");
 
@@ -34,7 +35,6 @@ static_assert(SCHIFF_START.size() == 6, "six ship types");
 
 void SCHIFF_NEU(Spiel& s, int typ) {
     const int p = s.AktSpieler;
-    const int m = DockPlaetze(s, p);
     int i = 1;
     while (i < SCHIFF_GRENZE && !s.Schiffe(i).Name.empty()) ++i;
     if (i == SCHIFF_GRENZE) {
@@ -43,16 +43,7 @@ void SCHIFF_NEU(Spiel& s, int typ) {
     }
     if (i > s.HoechstesSchiff) s.HoechstesSchiff = static_cast<Integer>(i);
 
-    // Into the dock list, which stays ascending with its gaps behind.
-    for (int k = m; k >= 2; --k) {
-        Integer& vor = s.DockSchiffe(k - 1, p);
-        if (vor > 0 && vor < i) {
-            s.DockSchiffe(k, p) = static_cast<Integer>(i);
-            break;
-        }
-        if (vor > 0) s.DockSchiffe(k, p) = vor;
-        if (k == 2) s.DockSchiffe(1, p) = static_cast<Integer>(i);
-    }
+    DOCK_EINREIHEN(s, p, i);
 
     Schiff& sch = s.Schiffe(i);
     const SchiffStart& st = SCHIFF_START[static_cast<size_t>(typ - 1)];
