@@ -31,60 +31,40 @@ TEST(Kredit, ImSpielAufnehmenAbzahlenUndJahresbuchung) {
     EXPECT_EQ(e.Bargeld(5), -2) << "the bank takes its share from empty pockets";
 }
 
-TEST(Kredit, GrenzeUndAblehnungen) {
-    {  // At the limit the prompt takes no digit but 0, and nothing is booked.
-        TestSpiel t("key ENTER\nkey 5\nkey ENTER\n");
-        t.s->Kredit(1) = 10000;
-        EXPECT_TRUE(t.laufen([](Spiel& s) { KREDIT(s); }));
-        EXPECT_EQ(t.s->Kredit(1), 10000);
-        EXPECT_EQ(t.s->Bargeld(1), 5000);
-        EXPECT_EQ(t.textBei(50, 690), "Aktueller Kredit: 10000");
-    }
-    {  // Paying back no more than the cash: 301 is cut at its last digit.
-        TestSpiel t("key UP\nkey ENTER\ntype 301\nkey ENTER\n");
-        t.s->Kredit(1) = 500;
-        t.s->Bargeld(1) = 300;
-        EXPECT_TRUE(t.laufen([](Spiel& s) { KREDIT(s); }));
-        EXPECT_EQ(t.s->Kredit(1), 470);
-        EXPECT_EQ(t.s->Bargeld(1), 270);
-        EXPECT_EQ(t.textBei(50, 630), "Kredit abbezahlen");
-        EXPECT_EQ(t.textBei(50, 690), "Kredit wurde abbezahlt!");
-    }
+TEST(Kredit, DialogeMitGrenzenUndAblehnungen) {
     struct Fall {
+        void (*dialog)(Spiel&);
+        const char* skript;
         Integer kredit;
         Long bargeld;
+        Integer kreditDanach;
+        Long bargeldDanach;
+        int y;
         const char* text;
+        bool allesErfunden = false;
     };
-    for (const Fall f : {Fall{0, 5000, "Kein Kredit vorhanden!"}, Fall{100, 0, "Sie haben kein Geld!"}}) {
-        TestSpiel t("key DOWN\nkey ENTER\n");
+    const Fall faelle[] = {
+        // At the limit the prompt takes no digit but 0, and nothing is booked.
+        {KREDIT, "key ENTER\nkey 5\nkey ENTER\n", 10000, 5000, 10000, 5000, 690, "Aktueller Kredit: 10000"},
+        // No more is paid back than the cash: 301 is cut at its last digit.
+        {KREDIT, "key UP\nkey ENTER\ntype 301\nkey ENTER\n", 500, 300, 470, 270, 630, "Kredit abbezahlen"},
+        {KREDIT, "key DOWN\nkey ENTER\n", 0, 5000, 0, 5000, 660, "Kein Kredit vorhanden!"},
+        {KREDIT, "key DOWN\nkey ENTER\n", 100, 0, 100, 0, 660, "Sie haben kein Geld!"},
+        {KREDIT, "key DOWN\nkey ESC\n", 100, 50, 100, 50, 660, ""},
+        // With debts in the cash the research prompt stays at 0 and below.
+        {FORSCHUNG_FINANZIEREN, "key 5\nkey UP\nkey ENTER\n", 0, -40, 0, -40, 630, "Wie viel?"},
+        {FORSCHUNG_FINANZIEREN, "", 0, 5000, 0, 5000, 630, "Keine Erfindung mehr möglich!", true},
+    };
+    for (const Fall& f : faelle) {
+        TestSpiel t(f.skript);
         t.s->Kredit(1) = f.kredit;
         t.s->Bargeld(1) = f.bargeld;
-        EXPECT_TRUE(t.laufen([](Spiel& s) { KREDIT(s); }));
-        EXPECT_EQ(t.textBei(50, 660), f.text);
-        EXPECT_EQ(t.s->Kredit(1), f.kredit);
-        EXPECT_EQ(t.s->Bargeld(1), f.bargeld);
-    }
-    {  // Esc leaves the choice with nothing done.
-        TestSpiel t("key DOWN\nkey ESC\n");
-        EXPECT_TRUE(t.laufen([](Spiel& s) { KREDIT(s); }));
-        EXPECT_EQ(t.textBei(50, 660), "");
-    }
-}
-
-TEST(Forschung, NichtsZuZahlen) {
-    {  // With debts in the cash the prompt stays at 0.
-        TestSpiel t("key 5\nkey UP\nkey ENTER\n");
-        t.s->Bargeld(1) = -40;
+        for (int k = 1; k <= 11; ++k) t.s->Forschung(k, 1) = f.allesErfunden ? -1 : 0;
         const Long rest = t.s->ForschungsRest(1);
-        EXPECT_TRUE(t.laufen([](Spiel& s) { FORSCHUNG_FINANZIEREN(s); }));
-        EXPECT_EQ(t.s->Bargeld(1), -40);
-        EXPECT_EQ(t.s->ForschungsRest(1), rest);
-    }
-    {  // Everything invented.
-        TestSpiel t;
-        for (int k = 1; k <= 11; ++k) t.s->Forschung(k, 1) = -1;
-        EXPECT_TRUE(t.laufen([](Spiel& s) { FORSCHUNG_FINANZIEREN(s); }));
-        EXPECT_EQ(t.textBei(50, 630), "Keine Erfindung mehr möglich!");
-        EXPECT_EQ(t.s->Bargeld(1), 5000);
+        EXPECT_TRUE(t.laufen(f.dialog)) << f.skript;
+        EXPECT_EQ(t.s->Kredit(1), f.kreditDanach) << f.skript;
+        EXPECT_EQ(t.s->Bargeld(1), f.bargeldDanach) << f.skript;
+        EXPECT_EQ(t.s->ForschungsRest(1), rest) << f.skript;
+        EXPECT_EQ(t.textBei(50, f.y), f.text) << f.skript;
     }
 }
