@@ -3,6 +3,7 @@
 #include "year/erfindungen.h"
 
 #include "screen/ausgabe.h"
+#include "screen/dialog.h"
 #include "screen/musik.h"
 #include "state/codes.h"
 #include "year/erfindungstexte.h"
@@ -22,7 +23,7 @@ void Geschichte(Spiel& s, const std::vector<std::string>& zeilen) {
     }
     TEXT_AUSGEBEN(s, "Weiter mit einer beliebigen Taste.", 15, 510, 700, GELB);
     DoEvents(s);
-    AUF_TASTE_WARTEN(s);
+    TASTE_ABWARTEN(s);
 }
 
 // Arrives on its Planet in this year's ship pass, by a single step.
