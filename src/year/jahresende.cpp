@@ -136,6 +136,7 @@ int Spieler(const Spiel& s) { return s.AnzahlSpieler < SPIELER_MAX ? s.AnzahlSpi
 }  // namespace
 
 Long BEWERTUNG(const Spiel& s, int p, bool ohneKredit) {
+    if (p < 1 || p > SPIELER_MAX) return 0;
     long long w = s.Bargeld(p) - (ohneKredit ? 0 : s.Kredit(p));
     const int bis = s.HoechstesSchiff < SCHIFF_GRENZE ? s.HoechstesSchiff : SCHIFF_GRENZE - 1;
     for (int i = 1; i <= bis; ++i) {
