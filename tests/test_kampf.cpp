@@ -394,3 +394,251 @@ TEST(Piraten, NeuePiratenDurchDreiTore) {
     EXPECT_EQ(Rnd(voll.s), NAECHSTE);
     EXPECT_TRUE(voll.s.Schiffe(SCHIFF_GRENZE).Name.empty());
 }
+
+// --- whole years through the driver, from prepared saved games ---------------------
+
+namespace {
+
+// A new game with the countdown events far away, so that only the fights
+// move money and ships.
+Spiel Vorbereitet(int spieler) {
+    Spiel s = NeuesSpielZustand(spieler, 5000);
+    for (int e = 1; e <= 5; ++e) s.EreignisJahre(e) = 500;
+    return s;
+}
+
+// Planet 5 of a system that no pirate, merchant or headquarters is near.
+int RuhigerPlanet(const Spiel& s) {
+    for (int sys = 3; sys < s.AnzahlPlaneten / 10; ++sys) {
+        bool frei = true;
+        for (int i = 1; i <= MAX_SCHIFFE; ++i) {
+            const Schiff& sch = s.Schiffe(i);
+            if ((!IstFrei(sch) || i >= HAENDLER_ERSTES) && (sch.Planet - 1) / 10 == sys) frei = false;
+        }
+        if (frei) return 10 * sys + 5;
+    }
+    return 0;
+}
+
+Schiff& Setzen(Spiel& s, int nr, int typNr, int besitzer, int planet, int waffen) {
+    Schiff& sch = s.Schiffe(nr);
+    sch = Schiff{};
+    sch.Typ = TypCode(typNr);
+    sch.Name = besitzer == BESITZER_PIRATEN ? PIRAT_NAME : s.SchiffKlasse(typNr);
+    sch.Besitzer = static_cast<Integer>(besitzer);
+    sch.Planet = static_cast<Integer>(planet);
+    sch.Bewaffnung = static_cast<Integer>(waffen);
+    sch.Tankgroesse = 30;
+    sch.Treibstoff = besitzer == BESITZER_PIRATEN ? 0 : 30;
+    if (nr > s.HoechstesSchiff) s.HoechstesSchiff = static_cast<Integer>(nr);
+    return sch;
+}
+
+// The colour of the first screen line that holds the text, -1 if none does.
+long FarbeVon(const TreiberLauf& lauf, const std::string& text) {
+    const size_t pos = lauf.screen.find(Utf8(T(text)));
+    if (pos == std::string::npos) return -1;
+    const size_t anfang = lauf.screen.rfind('\n', pos) + 1;
+    std::vector<std::string> felder;
+    size_t a = anfang;
+    for (int f = 0; f < 5; ++f) {
+        const size_t b = lauf.screen.find('\t', a);
+        felder.push_back(lauf.screen.substr(a, b - a));
+        a = b + 1;
+    }
+    return std::stol(felder[4]);
+}
+
+constexpr long ROT_WERT = 255, CYAN_WERT = 16776960;
+
+}  // namespace
+
+TEST(KampfSzenario, KreuzerGegenPiratImAustausch) {
+    Spiel s = Vorbereitet(1);
+    const int p = RuhigerPlanet(s);
+    ASSERT_GT(p, 0);
+    Setzen(s, 2, NR_KREUZER, BESITZER_PIRATEN, p, 4);
+    Schiff& k = Setzen(s, 7, NR_KREUZER, 1, p, 6);
+    k.Zustand = ZUSTAND_ANGRIFF;
+    k.Partner = 2;
+    // The load runs the first year, W the second.
+    const TreiberLauf lauf = GeladenSpielen(s, "key W\nkey ENTER\n", "kreuzer");
+    const Spiel g = ZustandAus(lauf);
+    // Year 1: 6 + 0..4 on the pirate, 0..2 back; the pirate takes up the
+    // fight. Year 2: each hits the other once, 6 + 0..4 and 0..4, no answer.
+    EXPECT_GE(g.Schiffe(2).Schaden, 12);
+    EXPECT_LE(g.Schiffe(2).Schaden, 20);
+    EXPECT_LE(g.Schiffe(7).Schaden, 6);
+    EXPECT_EQ(g.Schiffe(7).Zustand, ZUSTAND_ANGRIFF);
+    EXPECT_EQ(FarbeVon(lauf, "FSS 7: Angriff auf FSS 2"), CYAN_WERT) << lauf.screen;
+    EXPECT_EQ(FarbeVon(lauf, "FSS 2: Angriff auf FSS 7"), ROT_WERT) << lauf.screen;
+}
+
+TEST(KampfSzenario, PiratZerstoertEinePraemie) {
+    Spiel s = Vorbereitet(2);
+    const int p = RuhigerPlanet(s);
+    ASSERT_GT(p, 0);
+    Setzen(s, 3, NR_KREUZER, BESITZER_PIRATEN, p, 4).Schaden = 95;
+    for (int nr : {8, 9}) {
+        Schiff& k = Setzen(s, nr, NR_KREUZER, nr == 8 ? 2 : 1, p, 6);
+        k.Zustand = ZUSTAND_ANGRIFF;
+        k.Partner = 3;
+    }
+    const TreiberLauf erst = GeladenSpielen(s, "", "praemie1");
+    const Spiel g = ZustandAus(erst);
+    EXPECT_NE(erst.screen.find("FSS 3 ist " + Utf8(T("völlig zerstört!"))), std::string::npos) << erst.screen;
+    EXPECT_EQ(FarbeVon(erst, s.SpielerName(2) + " erhält 500 Prämie!"), ROT_WERT) << erst.screen;
+    EXPECT_EQ(g.Bargeld(2), s.Bargeld(2) + 500) << "the lower of the two attackers";
+    EXPECT_EQ(g.Bargeld(1), s.Bargeld(1));
+    EXPECT_EQ(g.Statistik(STAT_PIRATEN_BESIEGT, 2), 1);
+    EXPECT_EQ(g.Statistik(STAT_PIRATEN_BESIEGT, 1), 0);
+    for (int nr : {8, 9}) {
+        EXPECT_EQ(g.Schiffe(nr).Zustand, ZUSTAND_RUHT) << nr;
+        EXPECT_EQ(g.Schiffe(nr).Partner, 0) << nr;
+    }
+    // A year later nothing more is paid.
+    const TreiberLauf weiter = GeladenSpielen(s, "key W\nkey ENTER\nkey W\nkey ENTER\n", "praemie2");
+    const Spiel h = ZustandAus(weiter);
+    EXPECT_EQ(h.Bargeld(2), s.Bargeld(2) + 500);
+    EXPECT_EQ(h.Statistik(STAT_PIRATEN_BESIEGT, 2), 1);
+    EXPECT_EQ(weiter.screen.find(Utf8(T("Prämie"))), std::string::npos) << weiter.screen;
+}
+
+TEST(KampfSzenario, HauptquartierFaellt) {
+    Spiel s = Vorbereitet(1);
+    const int hq = s.Schiffe(PIRATEN_HQ).Planet;
+    ASSERT_GT(hq, 0);
+    s.Schiffe(PIRATEN_HQ).Schaden = 88;
+    for (int nr : {7, 8}) {
+        Schiff& k = Setzen(s, nr, NR_KREUZER, 1, hq, 15);
+        k.Zustand = ZUSTAND_ANGRIFF;
+        k.Partner = PIRATEN_HQ;
+    }
+    // Year by year, each saved and loaded again, until it falls.
+    bool gefallen = false;
+    for (int jahr = 1; jahr <= 6 && !gefallen; ++jahr) {
+        const Long vorher = s.Bargeld(1);
+        const Integer schadenVorher = s.Schiffe(PIRATEN_HQ).Schaden;
+        const TreiberLauf lauf = GeladenSpielen(s, "", "hq" + std::to_string(jahr));
+        const Spiel g = ZustandAus(lauf);
+        gefallen = g.Schiffe(PIRATEN_HQ).Planet == 0;
+        if (!gefallen) {
+            EXPECT_GE(g.Schiffe(PIRATEN_HQ).Schaden, schadenVorher) << jahr;
+            EXPECT_LE(g.Schiffe(PIRATEN_HQ).Schaden, schadenVorher + 16) << jahr;
+            EXPECT_EQ(FarbeVon(lauf, "Piratenhauptquartier:"), ROT_WERT) << lauf.screen;
+            EXPECT_EQ(FarbeVon(lauf, "FSS 7: Angriff auf das Hauptquartier"), CYAN_WERT) << lauf.screen;
+            EXPECT_EQ(g.Bargeld(1), vorher);
+        } else {
+            EXPECT_TRUE(FarbeVon(lauf, "Hauptquartier zerstört von FSS 7") == ROT_WERT ||
+                        FarbeVon(lauf, "Hauptquartier zerstört von FSS 8") == ROT_WERT)
+                << lauf.screen;
+            EXPECT_EQ(FarbeVon(lauf, "   " + s.SpielerName(1) + " erhält 10000 Prämie!"), ROT_WERT) << lauf.screen;
+            EXPECT_EQ(g.Bargeld(1), vorher + 10000);
+            EXPECT_EQ(g.Schiffe(PIRATEN_HQ).Besitzer, 0);
+            for (int nr : {7, 8}) EXPECT_EQ(g.Schiffe(nr).Zustand, ZUSTAND_RUHT) << "nothing left to attack";
+        }
+        s = g;
+    }
+    ASSERT_TRUE(gefallen);
+    // Its guns are silent from now on.
+    const TreiberLauf danach = GeladenSpielen(s, "", "hq_danach");
+    EXPECT_EQ(FarbeVon(danach, "Piratenhauptquartier:"), -1) << danach.screen;
+    EXPECT_EQ(ZustandAus(danach).Bargeld(1), s.Bargeld(1));
+}
+
+TEST(KampfSzenario, FrachterVerliertAllesUndLaesstDieStation) {
+    Spiel s = Vorbereitet(1);
+    const int p = RuhigerPlanet(s);
+    ASSERT_GT(p, 0);
+    Schiff& f = Setzen(s, 1, NR_FRACHTER, 1, p, 1);
+    f.Laderaum = 50;
+    f.Ladung = 30;
+    f.Fracht(3) = 30;
+    f.Schaden = 45;
+    f.Partner = 8;
+    Schiff& st = Setzen(s, 8, NR_STATION, 1, p, 0);
+    st.Zustand = ZUSTAND_GEKOPPELT;
+    st.Partner = 1;
+    st.Laderaum = 90;
+    Setzen(s, 2, NR_KREUZER, BESITZER_PIRATEN, p, 5);
+
+    // The load year: the pirate finds the freighter and strikes from the next.
+    TreiberLauf lauf = GeladenSpielen(s, "", "frachter0");
+    Spiel g = ZustandAus(lauf);
+    EXPECT_EQ(g.Schiffe(2).Zustand, ZUSTAND_ANGRIFF);
+    EXPECT_EQ(g.Schiffe(2).Partner, 1);
+    EXPECT_EQ(g.Schiffe(1).Schaden, 45);
+
+    std::string verluste;
+    for (int jahr = 1; jahr <= 8 && !IstFrei(g.Schiffe(1)); ++jahr) {
+        const Schiff vorher = g.Schiffe(1);
+        lauf = GeladenSpielen(g, "", "frachter" + std::to_string(jahr));
+        g = ZustandAus(lauf);
+        if (IstFrei(g.Schiffe(1))) break;
+        EXPECT_GE(g.Schiffe(1).Schaden, vorher.Schaden + 12) << jahr;
+        EXPECT_LE(g.Schiffe(1).Schaden, vorher.Schaden + 19) << jahr;
+        for (const char* v : {"die Ladung", "den Laderaum", "die Bewaffnung"})
+            if (FarbeVon(lauf, std::string("SST 1 hat ") + v + " verloren!") == ROT_WERT) verluste += std::string(v) + ";";
+    }
+    EXPECT_EQ(verluste, "die Ladung;den Laderaum;die Bewaffnung;") << "one a year, as the damage grows";
+    ASSERT_TRUE(IstFrei(g.Schiffe(1)));
+    EXPECT_EQ(FarbeVon(lauf, "SST 1 ist völlig zerstört!"), ROT_WERT) << lauf.screen;
+    // The station stays behind, free; the pirate turns on it at once.
+    const Schiff& station = g.Schiffe(8);
+    EXPECT_EQ(station.Typ, TYP_STATION);
+    EXPECT_EQ(station.Planet, p);
+    EXPECT_EQ(station.Zustand, ZUSTAND_RUHT);
+    EXPECT_EQ(station.Partner, 0);
+    EXPECT_EQ(g.Schiffe(2).Partner, 8);
+}
+
+TEST(KampfSzenario, PiratUeberfaelltBeiAnkunft) {
+    Spiel s = Vorbereitet(1);
+    const int p = RuhigerPlanet(s);
+    ASSERT_GT(p, 0);
+    Planet& pl = s.Dokument(p);
+    pl.Produktion = 10;
+    pl.Bestand = 2345;
+    pl.Preis = 20;
+    Schiff& pirat = Setzen(s, 2, NR_KREUZER, BESITZER_PIRATEN, p, 6);
+    pirat.Zustand = ZUSTAND_FLIEGT;
+    pirat.StartPlanet = static_cast<Integer>(p - 1);
+    pirat.Dauer = 1;
+    const TreiberLauf lauf = GeladenSpielen(s, "", "ueberfall");
+    const Spiel g = ZustandAus(lauf);
+    EXPECT_EQ(g.Dokument(p).Bestand, 0);
+    EXPECT_EQ(FarbeVon(lauf, "Überfall! Piraten erbeuten 23t "), ROT_WERT) << lauf.screen;
+    Spiel tafeln;  // the constant tables, which saved games do not hold
+    VORBELEGUNG_VARIABLEN(tafeln);
+    const std::string ort = pl.Name + tafeln.RoemZahl(p % 10);
+    EXPECT_EQ(FarbeVon(lauf, "     " + tafeln.WarenName(pl.Ware) + " auf " + ort), ROT_WERT) << lauf.screen;
+    EXPECT_EQ(g.Statistik(EST_GERAUBT, 2), 23);
+    // What grows while it stays is safe from it.
+    const Spiel h = ZustandAus(GeladenSpielen(g, "", "ueberfall2"));
+    if (h.Schiffe(2).Planet == p) {
+        EXPECT_EQ(h.Dokument(p).Bestand, 10);
+    }
+}
+
+TEST(KampfSzenario, AngriffAufNichtsEndetOhneAbsturz) {
+    Spiel s = Vorbereitet(1);
+    const int p = RuhigerPlanet(s);
+    ASSERT_GT(p, 0);
+    const int opfer[] = {500, 2000, -7, 1003};
+    for (int i = 0; i < 4; ++i) {
+        Schiff& k = Setzen(s, 7 + i, NR_KREUZER, 1, p, 9);
+        k.Zustand = ZUSTAND_ANGRIFF;
+        k.Partner = static_cast<Integer>(opfer[i]);
+    }
+    Setzen(s, 11, NR_KREUZER, BESITZER_PIRATEN, p + 1, 5).Zustand = ZUSTAND_ANGRIFF;
+    s.Schiffe(11).Partner = 3000;
+    const TreiberLauf lauf = GeladenSpielen(s, "", "nichts");
+    ASSERT_EQ(lauf.status, 0) << lauf.fehler;
+    const Spiel g = ZustandAus(lauf);
+    EXPECT_EQ(g.Jahr, s.Jahr + 1);
+    for (int i = 7; i <= 11; ++i) {
+        EXPECT_EQ(g.Schiffe(i).Zustand, ZUSTAND_RUHT) << i;
+        EXPECT_EQ(g.Schiffe(i).Partner, 0) << i;
+        EXPECT_EQ(g.Schiffe(i).Schaden, 0) << i;
+    }
+}
