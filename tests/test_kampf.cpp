@@ -1,5 +1,7 @@
 // Fights and pirates: the rules with fed draws, then whole years through the
 // headless driver from prepared saved games.
+#include <cstdio>
+
 #include "hilfe.h"
 #include "screen/ausgabe.h"
 #include "state/codes.h"
@@ -112,35 +114,18 @@ TEST(Angriff, GegenfeuerNachWaffenabstand) {
     }
 }
 
-TEST(Angriff, HauptquartierFaelltUndSchiesst) {
+TEST(Angriff, BerichtFluchtUndHauptquartier) {
     Welt w;
-    Schiff& hq = w.s.Schiffe(PIRATEN_HQ);
-    hq.Planet = 25;
-    hq.Schaden = 95;
-    w.angreifer(3, 1, 25, 10, PIRATEN_HQ);
-    w.angreifer(4, 2, 25, 6, PIRATEN_HQ);
-    // Int(12 x 0.5 / 2) = 3 and Int(8 x 0.25 / 2) = 1: it stands at 99.
-    RndFolge(w.s, {0.5f, 0.25f});
-    ANGRIFFE(w.s);
-    EXPECT_EQ(hq.Schaden, 99);
-    EXPECT_EQ(w.s.MeldungAnzahl, 0);
+    w.angreifer(3, 1, 25, 5, 4);
+    w.schiff(4, TYP_FRACHTER, 2, 26);                // left in the turn
+    w.angreifer(5, 1, 25, 5, 6);
+    w.schiff(6, TYP_FRACHTER, 2, 26).Schaden = 100;  // gone elsewhere, but destroyed
+    for (int i : {3, 5}) ANGRIFFSBERICHT(w.s, i);
+    EXPECT_EQ(w.meldungen(), "FSS 3: Angriff auf SST 4\nFSS 3 meldet Flucht des Opfers\nFSS 5: Angriff auf SST 6\n");
+    EXPECT_EQ(w.s.Schiffe(3).Zustand, ZUSTAND_RUHT);
+    EXPECT_EQ(w.s.Schiffe(5).Zustand, ZUSTAND_ANGRIFF);
 
-    // Int(12 x 0.9 / 2) = 5: it falls; the second attacker now fires on the
-    // slot like on a ship, six levels better, and takes no answer.
-    RndFolge(w.s, {0.9f, 0.5f, NAECHSTE});
-    ANGRIFFE(w.s);
-    EXPECT_EQ(w.meldungen(), "Hauptquartier zerstört von FSS 3\n   Anna erhält 10000 Prämie!\n");
-    EXPECT_EQ(w.s.Bargeld(1), 11000);
-    EXPECT_EQ(w.s.Bargeld(2), 1000);
-    EXPECT_EQ(hq.Besitzer, 0);
-    EXPECT_EQ(hq.Planet, 0);
-    EXPECT_EQ(hq.Schaden, 104 + 18 + 2);
-    EXPECT_EQ(w.s.Schiffe(4).Schaden, 0);
-    EXPECT_EQ(Rnd(w.s), NAECHSTE);
-    PARTNER_PRUEFEN(w.s);
-    EXPECT_EQ(w.s.Schiffe(3).Zustand, ZUSTAND_RUHT) << "nothing left to attack";
-
-    // Its guns: 17 + Int(0.99 x 7) - Int(10 x 0.5 / 2) on a ship of a player
+    // The guns: 17 + Int(0.99 x 7) - Int(10 x 0.5 / 2) on a ship of a player
     // that stands there, not on one arriving, not on a pirate.
     Welt f;
     f.s.Schiffe(PIRATEN_HQ).Planet = 25;
@@ -150,33 +135,9 @@ TEST(Angriff, HauptquartierFaelltUndSchiesst) {
     RndFolge(f.s, {0.99f, 0.5f, NAECHSTE});
     for (int i = 3; i <= 5; ++i) HAUPTQUARTIER_FEUER(f.s, i);
     EXPECT_EQ(f.s.Schiffe(3).Schaden, 21);
-    EXPECT_EQ(f.s.Schiffe(4).Schaden, 0);
-    EXPECT_EQ(f.s.Schiffe(5).Schaden, 0);
+    EXPECT_EQ(f.s.Schiffe(4).Schaden + f.s.Schiffe(5).Schaden, 0);
     EXPECT_EQ(f.meldungen(), "Piratenhauptquartier:\n   Angriff auf FSS 3\n");
     EXPECT_EQ(Rnd(f.s), NAECHSTE);
-}
-
-TEST(Angriff, BerichtUndFluchtDesOpfers) {
-    Welt w;
-    w.angreifer(3, 1, 25, 5, 4);
-    w.schiff(4, TYP_FRACHTER, 2, 26);                    // left in the turn
-    w.angreifer(5, 1, 25, 5, 6);
-    w.schiff(6, TYP_FRACHTER, 2, 26).Schaden = 100;      // gone elsewhere, but destroyed
-    w.angreifer(7, BESITZER_PIRATEN, 25, 5, 8);
-    w.schiff(8, TYP_SCOUT, 1, 25);
-    w.angreifer(9, 1, 25, 5, PIRATEN_HQ);
-    w.s.Schiffe(PIRATEN_HQ).Planet = 25;
-    for (int i : {3, 5, 9}) ANGRIFFSBERICHT(w.s, i);
-    PIRAT_IM_SCHIFFSDURCHLAUF(w.s, 7);
-    EXPECT_EQ(w.meldungen(),
-              "FSS 3: Angriff auf SST 4\nFSS 3 meldet Flucht des Opfers\nFSS 5: Angriff auf SST 6\n"
-              "FSS 9: Angriff auf das Hauptquartier\nFSS 7: Angriff auf  XS 8\n");
-    EXPECT_EQ(w.s.MeldungFarbe(1), static_cast<Long>(CYAN));
-    EXPECT_EQ(w.s.MeldungFarbe(5), static_cast<Long>(ROT)) << "what pirates do is red";
-    EXPECT_EQ(w.s.Schiffe(3).Zustand, ZUSTAND_RUHT);
-    EXPECT_EQ(w.s.Schiffe(5).Zustand, ZUSTAND_ANGRIFF);
-    EXPECT_EQ(w.s.Schiffe(7).Zustand, ZUSTAND_ANGRIFF);
-    EXPECT_EQ(w.s.Schiffe(9).Zustand, ZUSTAND_ANGRIFF);
 }
 
 // --- damage and wrecks --------------------------------------------------------------
@@ -223,45 +184,18 @@ TEST(Schaden, VerlusteEinJahrNachDemAnderen) {
     }
 }
 
-TEST(Schaden, PraemieFuerDenNiedrigstenAngreiferUndWracks) {
+TEST(Schaden, TraegerImFlugNimmtSeineStationMit) {
     Welt w;
-    w.schiff(5, TYP_KREUZER, BESITZER_PIRATEN, 25, 6).Schaden = 100;
-    w.angreifer(2, BESITZER_PIRATEN, 25, 6, 5);  // pirates win no prize
-    w.angreifer(3, 2, 25, 6, 5);
-    w.angreifer(7, 1, 25, 6, 5);
-    w.schiff(8, TYP_KREUZER, BESITZER_PIRATEN, 30, 6).Schaden = 120;  // worn out: nobody is paid
-    SCHIFF_BESCHAEDIGEN(w.s, 5);
-    SCHIFF_BESCHAEDIGEN(w.s, 8);
-    EXPECT_EQ(w.meldungen(), "FSS 5 ist völlig zerstört!\nBert erhält 500 Prämie!\nFSS 8 ist völlig zerstört!\n");
-    EXPECT_EQ(w.s.Bargeld(2), 1500);
-    EXPECT_EQ(w.s.Bargeld(1), 1000);
-    EXPECT_EQ(w.s.Statistik(STAT_PIRATEN_BESIEGT, 2), 1);
-
-    // The wrecks go; whoever attacked them stands down. A freighter hit on the
-    // way takes its station along; one hit at rest leaves it on the planet.
-    Schiff& flug = w.schiff(10, TYP_FRACHTER, 1, 40);
-    flug.Zustand = ZUSTAND_FLIEGT;
-    flug.Schaden = 100;
-    flug.Partner = 11;
-    Schiff& st1 = w.schiff(11, TYP_STATION, 1, 40);
-    st1.Zustand = ZUSTAND_GEKOPPELT;
-    st1.Partner = 10;
-    Schiff& rast = w.schiff(12, TYP_FRACHTER, 1, 44);
-    rast.Schaden = 100;
-    rast.Partner = 13;
-    Schiff& st2 = w.schiff(13, TYP_STATION, 1, 44);
-    st2.Zustand = ZUSTAND_GEKOPPELT;
-    st2.Partner = 12;
+    Schiff& f = w.schiff(10, TYP_FRACHTER, 1, 40);
+    f.Zustand = ZUSTAND_FLIEGT;
+    f.Schaden = 100;
+    f.Partner = 11;
+    Schiff& st = w.schiff(11, TYP_STATION, 1, 40);
+    st.Zustand = ZUSTAND_GEKOPPELT;
+    st.Partner = 10;
     ZERSTOERTE_ENTFERNEN(w.s);
-    for (int i : {5, 8, 10, 11, 12}) EXPECT_TRUE(IstFrei(w.s.Schiffe(i))) << i;
-    for (int i : {2, 3, 7}) {
-        EXPECT_EQ(w.s.Schiffe(i).Zustand, ZUSTAND_RUHT) << i;
-        EXPECT_EQ(w.s.Schiffe(i).Partner, 0) << i;
-    }
-    EXPECT_EQ(st2.Typ, TYP_STATION);
-    EXPECT_EQ(st2.Planet, 44);
-    EXPECT_EQ(st2.Zustand, ZUSTAND_RUHT);
-    EXPECT_EQ(st2.Partner, 0);
+    EXPECT_TRUE(IstFrei(f));
+    EXPECT_TRUE(IstFrei(st));
 }
 
 // --- the pirates' moves ------------------------------------------------------------
@@ -437,16 +371,10 @@ Schiff& Setzen(Spiel& s, int nr, int typNr, int besitzer, int planet, int waffen
 // The colour of the first screen line that holds the text, -1 if none does.
 long FarbeVon(const TreiberLauf& lauf, const std::string& text) {
     const size_t pos = lauf.screen.find(Utf8(T(text)));
-    if (pos == std::string::npos) return -1;
-    const size_t anfang = lauf.screen.rfind('\n', pos) + 1;
-    std::vector<std::string> felder;
-    size_t a = anfang;
-    for (int f = 0; f < 5; ++f) {
-        const size_t b = lauf.screen.find('\t', a);
-        felder.push_back(lauf.screen.substr(a, b - a));
-        a = b + 1;
-    }
-    return std::stol(felder[4]);
+    long farbe = -1;
+    if (pos != std::string::npos)
+        std::sscanf(lauf.screen.c_str() + lauf.screen.rfind('\n', pos) + 1, "text\t%*d\t%*d\t%*d\t%ld", &farbe);
+    return farbe;
 }
 
 constexpr long ROT_WERT = 255, CYAN_WERT = 16776960;
