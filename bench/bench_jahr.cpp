@@ -35,4 +35,34 @@ void BM_JahrDerGroesstenWelt(benchmark::State& st) {
 }
 BENCHMARK(BM_JahrDerGroesstenWelt)->Unit(benchmark::kMillisecond);
 
+// The same world at war: cruisers at the pirates and at the headquarters,
+// pirates looking for victims, hopping, fleeing and being born.
+void BM_JahrMitPiraten(benchmark::State& st) {
+    auto p = std::make_unique<HeadlessPlattform>();
+    std::string fehler;
+    if (!p->schriftBereit(fehler)) {
+        st.SkipWithError(fehler.c_str());
+        return;
+    }
+    auto s = std::make_unique<Spiel>();
+    s->plattform = p.get();
+    s->ProgrammVerzeichnis = QUORVANT_DATEN_STANDARD;
+    if (!GrosseWeltBauen(*s, 1234)) {
+        st.SkipWithError("Planetenliste.bin fehlt");
+        return;
+    }
+    GrosseWeltRuesten(*s);
+    // Ten years on, so that the fights are under way, then every measured
+    // year starts from there again.
+    for (int j = 0; j < 10; ++j) RUNDE_AUSFUEHREN(*s);
+    const Spiel vorlage = *s;
+    for (auto _ : st) {
+        st.PauseTiming();
+        *s = vorlage;
+        st.ResumeTiming();
+        RUNDE_AUSFUEHREN(*s);
+    }
+}
+BENCHMARK(BM_JahrMitPiraten)->Unit(benchmark::kMillisecond);
+
 }  // namespace

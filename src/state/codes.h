@@ -70,6 +70,8 @@ inline constexpr int WARE_HISTARIN = 17;   // makes a storage fire total
 // --- owners ------------------------------------------------------------------------
 inline constexpr Integer NIEMAND = 0;
 inline constexpr Integer BESITZER_PIRATEN = 7;
+// The class name a pirate carries: one blank shorter than a player's cruiser.
+inline constexpr const char* PIRAT_NAME = "Kreuzer    ";
 inline constexpr int SPIELER_MAX = 6;
 
 // --- inventions: the columns of Forschung ---------------------------------------------
