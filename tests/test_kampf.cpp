@@ -549,24 +549,35 @@ TEST(KampfSzenario, PiratUeberfaelltBeiAnkunft) {
 }
 
 TEST(KampfSzenario, AngriffAufNichtsEndetOhneAbsturz) {
+    // Victims inside the table but empty or never used: the year runs and the
+    // partner check ends the attacks.
     Spiel s = Vorbereitet(1);
     const int p = RuhigerPlanet(s);
     ASSERT_GT(p, 0);
-    const int opfer[] = {500, 2000, -7, 1003};
-    for (int i = 0; i < 4; ++i) {
+    const int opfer[] = {500, 1003};
+    for (int i = 0; i < 2; ++i) {
         Schiff& k = Setzen(s, 7 + i, NR_KREUZER, 1, p, 9);
         k.Zustand = ZUSTAND_ANGRIFF;
         k.Partner = static_cast<Integer>(opfer[i]);
     }
     Setzen(s, 11, NR_KREUZER, BESITZER_PIRATEN, p + 1, 5).Zustand = ZUSTAND_ANGRIFF;
-    s.Schiffe(11).Partner = 3000;
+    s.Schiffe(11).Partner = 1002;
     const TreiberLauf lauf = GeladenSpielen(s, "", "nichts");
     ASSERT_EQ(lauf.status, 0) << lauf.fehler;
     const Spiel g = ZustandAus(lauf);
     EXPECT_EQ(g.Jahr, s.Jahr + 1);
-    for (int i = 7; i <= 11; ++i) {
+    for (int i : {7, 8, 11}) {
         EXPECT_EQ(g.Schiffe(i).Zustand, ZUSTAND_RUHT) << i;
         EXPECT_EQ(g.Schiffe(i).Partner, 0) << i;
         EXPECT_EQ(g.Schiffe(i).Schaden, 0) << i;
+    }
+
+    // Victims outside the table: the loader refuses the file before any year.
+    for (int falsch : {2000, -7}) {
+        Spiel t = s;
+        t.Schiffe(7).Partner = static_cast<Integer>(falsch);
+        const TreiberLauf l = GeladenSpielen(t, "", "ausserhalb");
+        EXPECT_EQ(l.status, 0) << l.fehler;
+        EXPECT_NE(l.fehler.find("Schiffe(7).Partner = " + std::to_string(falsch)), std::string::npos) << l.fehler;
     }
 }
