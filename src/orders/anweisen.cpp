@@ -1,7 +1,9 @@
 #include "orders/anweisen.h"
 
+#include "orders/angriff.h"
 #include "orders/fracht.h"
 #include "orders/reisen.h"
+#include "orders/sonder.h"
 #include "screen/ausgabe.h"
 #include "screen/dialog.h"
 #include "screen/eingabe.h"
@@ -176,8 +178,14 @@ void SCHIFFE_ANWEISEN(Spiel& s) {
             case P_ENTLADEN: a = ENTLADEN(s, nr); break;
             case P_ANKOPPELN: a = ANKOPPELN(s, nr); break;
             case P_TRENNEN: a = TRENNEN(s, nr); break;
+            case P_ANGRIFF: ORDER_ANGRIFF(s, nr); break;
+            case P_ANGRIFF_BEENDEN: ORDER_ANGRIFF_BEENDEN(s, nr); break;
             case P_NOTRUF: ORDER_NOTRUF(s, nr); break;
-            default: break;  // attacks and the special orders come with their own work
+            case P_HANDELN: ORDER_HANDELN(s, nr); break;
+            case P_REPARATUR: ORDER_REPARATUR(s, nr); break;
+            case P_GERAET_AUSLIEFERN: ORDER_GERAET_AUSLIEFERN(s, nr); break;
+            case P_PORTAL_INSTALLIEREN: ORDER_PORTAL_INSTALLIEREN(s, nr); break;
+            default: break;
         }
         if (a == Ausgang::Ende) return;
     }

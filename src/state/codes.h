@@ -74,6 +74,9 @@ inline constexpr Integer BESITZER_PIRATEN = 7;
 inline constexpr const char* PIRAT_NAME = "Kreuzer    ";
 inline constexpr int SPIELER_MAX = 6;
 
+// A merchant ship is called HSZ 2 to HSZ 7: its slot minus 1003.
+inline int HaendlerNummer(int slot) { return slot - (HAENDLER_ERSTES - 2); }
+
 // --- inventions: the columns of Forschung ---------------------------------------------
 enum ErfindungNr : int {
     ERF_LADERAUM = 1,        // holds of freighters and tankers up to 120 t
