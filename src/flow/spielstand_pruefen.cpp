@@ -60,7 +60,9 @@ bool SPIELSTAND_PRUEFEN(const Spiel& s, std::string& wo) {
                   sch.StartPlanet);
         if (IstFrei(sch)) continue;
         // A ship in use stands on, or flies between, planets in play.
-        p.pruefen(i <= s.HoechstesSchiff, p.schiff(i, "Typ") + " (above HoechstesSchiff)", i);
+        // Only a new pirate may wait above HoechstesSchiff, until a player's
+        // new ship raises the bound past it.
+        p.pruefen(i <= s.HoechstesSchiff || IstPirat(sch), p.schiff(i, "Typ") + " (above HoechstesSchiff)", i);
         p.pruefen(p.imSpiel(sch.Planet), p.schiff(i, "Planet"), sch.Planet);
         p.pruefen(sch.StartPlanet == 0 || p.imSpiel(sch.StartPlanet < 0 ? -sch.StartPlanet : sch.StartPlanet),
                   p.schiff(i, "StartPlanet"), sch.StartPlanet);
