@@ -208,10 +208,11 @@ bool FLOTTENLISTE(Spiel& s, long& anzahl) {
         }
         for (; i <= KLICK_ZEILEN; ++i) s.KlickFelder(i) = KlickFeld{0, 0, 0, 0, -1, -1};
 
-        // Wait for a key, or for a click that changes the tab or the order.
-        const long seite = s.StatusSeite, spalte = s.StatusSpalte, folge = s.StatusFolge;
+        // Wait for a key, or for a click that changes the tab or the order
+        // (also one that came while the list was drawn).
         s.TasteDa = 0;
-        while (s.TasteDa == 0 && seite == s.StatusSeite && spalte == s.StatusSpalte && folge == s.StatusFolge) {
+        while (s.TasteDa == 0 && s.StatusSeite == seiteGezeigt && s.StatusSpalte == spalteGezeigt &&
+               s.StatusFolge == folgeGezeigt) {
             s.plattform->schlafen(5);
             DoEvents(s);
         }
