@@ -20,10 +20,12 @@ std::vector<std::vector<int>> Listen(const std::string& spur) {
     std::vector<std::vector<int>> r;
     std::istringstream ein(spur);
     std::string zeile;
+    bool liste = false;
     while (std::getline(ein, zeile)) {
-        if (zeile == "box 505 285 998 738 0") r.emplace_back();
+        if (zeile == "box 505 285 998 738 0") r.emplace_back(), liste = true;
+        if (zeile == "box 502 232 998 738 0") liste = false;  // the list is left
         int y = 0;
-        if (!r.empty() && zeile.rfind("print 510 ", 0) == 0 && std::sscanf(zeile.c_str(), "print 510 %d", &y) == 1 && y >= 285) {
+        if (liste && zeile.rfind("print 510 ", 0) == 0 && std::sscanf(zeile.c_str(), "print 510 %d", &y) == 1 && y >= 285) {
             const size_t text = zeile.find(' ', zeile.find(' ', zeile.find(' ', 10) + 1) + 1) + 1;
             r.back().push_back(std::atoi(zeile.substr(text + 3, 4).c_str()));
         }
@@ -150,4 +152,190 @@ TEST(Status, FlotteGefiltertUndNachJederSpalteSortiert) {
     const std::string danach = lauf.trace.substr(lauf.trace.rfind("print 570 232 15 16711935 * * *"));
     EXPECT_NE(danach.find("print 50 600 15 16777215 Raumschiffe anweisen"), std::string::npos);
     EXPECT_NE(danach.find("print 30 110 15 16711935 Schiff   FSS  2"), std::string::npos);
+}
+
+namespace {
+
+bool PngLesen(const std::string& pfad, std::vector<uint32_t>& pix, int& b, int& h) {
+    png_image bild{};
+    bild.version = PNG_IMAGE_VERSION;
+    if (!png_image_begin_read_from_file(&bild, pfad.c_str())) return false;
+    bild.format = PNG_FORMAT_BGRA;
+    b = static_cast<int>(bild.width);
+    h = static_cast<int>(bild.height);
+    pix.assign(static_cast<size_t>(b) * h, 0);
+    const bool gut = png_image_finish_read(&bild, nullptr, pix.data(), 0, nullptr) != 0;
+    png_image_free(&bild);
+    return gut;
+}
+
+// The driver's picture against the golden one; a few glyph-edge shades may
+// differ. QUORVANT_GOLDEN_SCHREIBEN=1 keeps the new picture instead.
+void WieGolden(const std::string& png, const std::string& name) {
+    const std::string golden = std::string(QUORVANT_TESTDATEN) + "/golden/" + name + ".png";
+    std::vector<uint32_t> ist, soll;
+    int b = 0, h = 0;
+    ASSERT_TRUE(PngLesen(png, ist, b, h));
+    if (std::getenv("QUORVANT_GOLDEN_SCHREIBEN")) {
+        Leinwand l;
+        l.zurueckholen(ist);
+        std::string fehler;
+        ASSERT_TRUE(l.pngSchreiben(golden, fehler)) << fehler;
+        return;
+    }
+    ASSERT_TRUE(PngLesen(golden, soll, b, h)) << "golden picture missing: " << golden;
+    ASSERT_EQ(ist.size(), soll.size());
+    int anders = 0;
+    for (size_t i = 0; i < ist.size(); ++i) {
+        int d = 0;
+        for (int k = 0; k < 24; k += 8)
+            d = std::max(d, std::abs(static_cast<int>((ist[i] >> k) & 255) - static_cast<int>((soll[i] >> k) & 255)));
+        if (d > 64) ++anders;
+    }
+    EXPECT_LE(anders, 400) << name << ": " << anders << " pixels differ";
+}
+
+}  // namespace
+
+TEST(Status, AuswertungUndWeitereInformationenEinesSpielers) {
+    Spiel s = Flotte();
+    s.Bargeld(1) = 4000;
+    s.Kredit(1) = 6000;  // the wealth goes below zero
+    s.Statistik(1, 1) = 1234;
+    s.Statistik(14, 1) = 5;
+    s.Statistik(STAT_PIRATEN_BESIEGT, 1) = 3;
+    s.Komponenten = 5;  // the DTW filter's lines show
+    const long zaehler[22] = {0, 123456, 23456, 3456, 456, 199, 7000, 1000, 2000, 1500, 2000, 500,
+                              333, 2, 44, 55, 395, 49, 100, 33, 16, 1};
+    for (int c = 1; c <= 21; ++c) s.Statistik(c, 2) = static_cast<Long>(zaehler[c]);
+    const std::string png = TempOrdner("status-png") + "/status.png";
+    const std::string weiter = "key S\nkey ENTER\n" + Klick(TabMitte("Alle FSS ", "SST"), 240) +
+                               "key SPACE\nkey SPACE\nkey PGUP\nkey PGUP\n" + Klick(Spalte(33) + 3, 270);
+    const TreiberLauf lauf = GeladenSpielen(s, weiter, "auswertung", "--seed 7 --png " + png);
+    const Spiel n = ZustandAus(lauf);
+    // The year of the load: the docks offered 5 more place-years, the scout kept one busy.
+    ASSERT_EQ(n.Statistik(EST_DOCK_ANGEBOTEN, 2), 400);
+    ASSERT_EQ(n.Statistik(EST_DOCK_BELEGT, 2), 200);
+    ASSERT_EQ(n.Statistik(EST_BELEGT_BAU, 2), 50);
+
+    auto rot = [&](const std::string& spur, int x, int y) {
+        std::vector<std::string> r;
+        for (const std::string& t : Gedruckt(spur, x, y))
+            if (t.rfind("255 ", 0) == 0) r.push_back(t.substr(4));
+        return r;
+    };
+    const size_t w = lauf.trace.find("print 510 250 15 255 Weitere Informationen:");
+    ASSERT_NE(w, std::string::npos);
+    const size_t w2 = lauf.trace.find("box 502 245 998 738 0", w);
+    const std::string auswertung1 = lauf.trace.substr(0, w), dritte = lauf.trace.substr(w, w2 - w),
+                      auswertung2 = lauf.trace.substr(w2);
+    // The evaluation page twice: after the filtered list, and again after PageUp.
+    for (const std::string& seite : {auswertung1, auswertung2}) {
+        EXPECT_EQ(rot(seite, 510, 250), (std::vector<std::string>{Utf8(T("Vermögen:       ")) + "     -2000"}));
+        ASSERT_EQ(rot(seite, 510, 275).size(), 1u);
+        EXPECT_EQ(rot(seite, 510, 275)[0].substr(0, 16), "Bewertung:      ");
+        EXPECT_EQ(rot(seite, 510, 300), (std::vector<std::string>{"Anzahl Schiffe:          2"}));
+        EXPECT_EQ(rot(seite, 541, 348), (std::vector<std::string>{"Getreide:" + std::string(15, ' ') + "1234"}));
+        EXPECT_EQ(rot(seite, 541, 582), (std::vector<std::string>{"Antimaterie:" + std::string(15, ' ') + "5"}));
+        EXPECT_TRUE(rot(seite, 541, 366).empty());
+        EXPECT_EQ(rot(seite, 510, 710), (std::vector<std::string>{"Piraten besiegt:         3"}));
+    }
+    EXPECT_EQ(n.Bargeld(1) - n.Kredit(1), -2000);
+
+    // The third page, and what it makes of the counters.
+    auto sd = [](const char* label, long v, const char* einheit) { return Utf8(T(label)) + Rechtsbuendig(v, 9) + einheit; };
+    auto pr = [](const char* label, const char* prozent) {
+        return std::string(label) + std::string(12 - std::string(prozent).size(), ' ') + prozent;
+    };
+    const std::vector<std::pair<int, std::string>> zeilen = {
+        {275, sd("Gesamterlös aus Verkauf:    ", 123456, " SD")}, {300, sd("Zahlungen für Wareneinkauf: ", 23456, " SD")},
+        {325, sd("Steuerzahlungen:            ", 3456, " SD")}, {350, sd("Gebühren für Raumfahrthafen:", 456, " SD")},
+        {375, sd("Zahlungen an die Spacedocks:", 7000, " SD")}, {396, sd("  davon für Bau:            ", 1000, " SD")},
+        {417, sd("  davon für Laderaum:       ", 2000, " SD")}, {438, sd("  davon für Bewaffnung:     ", 1500, " SD")},
+        {459, sd("  davon für Reperatur:      ", 2000, " SD")}, {480, sd("  davon für DTW-Filter:     ", 500, " SD")},
+        {505, pr("Auslastung der Spacedocks: ", "50,0 %")}, {526, pr("  davon am Bau:            ", "25,0 %")},
+        {547, pr("  davon am Laderaum:       ", "50,0 %")}, {568, pr("  davon an der Bewaffnung: ", "16,5 %")},
+        {589, pr("  davon an der Reperatur:  ", "8,0 %")}, {610, pr("  davon am DTW-Filter:     ", "0,5 %")},
+        {635, sd("Gekaufte Tankeinheiten:     ", 333, " TE")}, {660, sd("Anzahl abgebrannter Waren:  ", 44, " t")},
+        {685, sd("Anzahl verlorener Schiffe:  ", 2, "")}, {710, sd("Anzahl geraubter Waren:     ", 55, " t")}};
+    for (const auto& [y, text] : zeilen) EXPECT_EQ(rot(dritte, 510, y), std::vector<std::string>{text}) << y;
+
+    // PageUp twice: the full list again, on its first page, then sorted by a click.
+    const auto listen = Listen(lauf.trace);
+    ASSERT_GE(listen.size(), 4u);
+    EXPECT_EQ(listen[0], (std::vector<int>{1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(listen[1], (std::vector<int>{1, 4}));
+    EXPECT_EQ(listen[2], (std::vector<int>{1, 2, 3, 4, 5, 6}));
+    EXPECT_EQ(listen.back(), (std::vector<int>{1, 3, 4, 6, 2, 5}));
+    WieGolden(png, "status");
+}
+
+namespace {
+
+Schiff& Eigenes(Spiel& s, int nr, const char* typ, int laderaum, int bewaffnung, int schaden) {
+    Schiff& sch = s.Schiffe(nr);
+    sch.Typ = typ;
+    sch.Name = "Schiff";
+    sch.Besitzer = 1;
+    sch.Planet = SOL_III;
+    sch.Laderaum = static_cast<Integer>(laderaum);
+    sch.Bewaffnung = static_cast<Integer>(bewaffnung);
+    sch.Schaden = static_cast<Integer>(schaden);
+    return sch;
+}
+
+}  // namespace
+
+TEST(Status, BewertungOhneKreditUndOhneDocksKeineAuslastung) {
+    TestSpiel t("key SPACE\nkey SPACE\nkey ENTER\n");
+    Spiel& s = *t.s;
+    s.Dokument(3).Name = "Sol ";
+    s.Bargeld(1) = 1000;
+    s.Kredit(1) = 700;  // Vermögen counts the debt, the Bewertung here does not
+    // The first hull is 352.5: a half, and the running total 1352.5 rounds to the even 1352.
+    Eigenes(s, 1, "FSS ", 0, 0, 25);
+    Eigenes(s, 2, "SST ", 10, 1, 0).Fracht(2) = 3;                      // 1050 + 3 x 40
+    Eigenes(s, 3, "TST ", 0, 0, 0).Fracht(FRACHT_SPRIT) = 4;            // 800 + 4 x 30
+    Schiff& st = Eigenes(s, 4, "TSR ", 0, 0, 0);                        // 2000 + 40 + 30
+    st.Fracht(2) = 1;
+    st.Fracht(FRACHT_SPRIT) = 1;
+    Eigenes(s, 5, "XXL ", 200, 0, 0).Fracht(1) = 50;                    // 400, the cargo not counted
+    Eigenes(s, 6, " XS ", 0, 0, 50);                                    // 200
+    Eigenes(s, 7, "SST ", 10, 0, 0).Besitzer = 2;                       // not his
+    s.HoechstesSchiff = 7;
+    s.Preis(1) = 30;
+    s.Preis(2) = 40;
+    s.Preis(3) = 50;
+    s.Lager(3, 1) = 10;                                                 // 500
+    s.Forschung(1, 1) = s.Forschung(5, 1) = -1;                         // 2500 x 2 x 2
+    s.Forschung(FORSCHUNG_MILLIONAER, 1) = -1;                          // no invention
+    s.Statistik(EST_TANKEINHEITEN, 2) = 77;
+    t.p->spurAufzeichnen(true);
+    ASSERT_TRUE(t.laufen([](Spiel& sp) { STATUS(sp); }));
+    const std::string& spur = t.p->spur();
+    EXPECT_EQ(Gedruckt(spur, 510, 250).at(0), Utf8("255 " + T("Vermögen:       ") + "       300"));
+    EXPECT_EQ(Gedruckt(spur, 510, 275).at(0), "255 Bewertung:           16612");
+    EXPECT_EQ(Gedruckt(spur, 510, 300).at(0), "255 Anzahl Schiffe:          6");
+    // The third page stops after the payments while the docks have never been busy.
+    EXPECT_EQ(Gedruckt(spur, 510, 459).back(), Utf8("255 " + T("  davon für Reperatur:      ") + "        0 SD"));
+    EXPECT_TRUE(Gedruckt(spur, 510, 480).empty()) << "no DTW line before the fifth component";
+    EXPECT_TRUE(Gedruckt(spur, 510, 635).empty()) << "no tank units before the docks worked";
+}
+
+TEST(Status, AchtzehnZeilenJeSeite) {
+    for (const int anzahl : {18, 19}) {
+        TestSpiel t("key SPACE\nkey PGUP\nkey SPACE\nkey SPACE\nkey ESC\nkey ESC\n");
+        Spiel& s = *t.s;
+        s.Dokument(3).Name = "Sol ";
+        for (int nr = 1; nr <= anzahl; ++nr) Eigenes(s, nr, " XS ", 0, 0, 0);
+        s.HoechstesSchiff = static_cast<Integer>(anzahl);
+        t.p->spurAufzeichnen(true);
+        ASSERT_TRUE(t.laufen([](Spiel& sp) { STATUS(sp); }));
+        std::vector<int> erste(18), zweite;
+        for (int i = 0; i < 18; ++i) erste[static_cast<size_t>(i)] = i + 1;
+        if (anzahl == 19) zweite = {19};
+        // With 18 ships the second page is empty; PageUp goes back to the first.
+        EXPECT_EQ(Listen(t.p->spur()), (std::vector<std::vector<int>>{erste, zweite, erste, zweite})) << anzahl;
+        EXPECT_EQ(Gedruckt(t.p->spur(), 510, 300).at(0), "255 Anzahl Schiffe: " + Rechtsbuendig(anzahl, 10));
+    }
 }

@@ -160,6 +160,9 @@ bool FLOTTENLISTE(Spiel& s, long& anzahl) {
     s.StatusSeite = 1;
     const int n = static_cast<int>(r.size());
     int c = n, o = 0;
+    // The list takes the whole news box: nothing of the news or of the
+    // evaluation page may shine through between its parts.
+    BOX(s, 502, 245, 998, 738, SCHWARZ);
     TEXT_AUSGEBEN(s, T("Zurückblättern mit PageUp"), 15, 50, 630, WEISS);
     TEXT_AUSGEBEN(s, "Weiter mit beliebiger Taste", 15, 50, 660, WEISS);
     s.Bildschirm = "STATUS";
