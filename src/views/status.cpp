@@ -46,8 +46,8 @@ Long BewertungOhneKredit(const Spiel& s, int p) {
         w = static_cast<long long>(std::nearbyint(static_cast<double>(w) + rumpf)) + ladung;
     }
     for (int g = 1; g <= ANZAHL_WAREN; ++g) w += static_cast<long long>(s.Lager(g, p)) * s.Preis(g);
-    long long erfindungen = 0;
-    for (int k = 1; k <= 12; ++k)
+    long long erfindungen = 0;  // the columns of the inventions, and the next one, which is never set
+    for (int k = 1; k <= ANZAHL_ERFINDUNGEN + 1; ++k)
         if (s.Forschung(k, p) == -1) ++erfindungen;
     w += 2500 * erfindungen * erfindungen;
     return static_cast<Long>(w);

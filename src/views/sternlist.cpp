@@ -68,7 +68,7 @@ void Tafel(Spiel& s, int z) {
         const Schiff& sch = s.Schiffe(n);
         if (IstFrei(sch) || sch.Planet != z) continue;
         if (sch.Zustand != ZUSTAND_RUHT && sch.Zustand != ZUSTAND_ANGRIFF) continue;
-        const std::string eigner = sch.Besitzer >= 1 && sch.Besitzer <= 7 ? s.SpielerName(sch.Besitzer) : std::string();
+        const std::string eigner = sch.Besitzer >= 1 && sch.Besitzer <= BESITZER_PIRATEN ? s.SpielerName(sch.Besitzer) : std::string();
         y += 22;
         SchiffsZeile(s, y, sch.Typ + Rechtsbuendig(n, 4) + " (Eigent. " + eigner + ")", KleinesBild(sch));
     }
@@ -76,7 +76,8 @@ void Tafel(Spiel& s, int z) {
         const Schiff& sch = s.Schiffe(n);
         if (sch.Planet != z || sch.Zustand != ZUSTAND_RUHT) continue;
         y += 22;
-        SchiffsZeile(s, y, "HSZ   " + Str(n - 1003) + T(" (Eigent. Händler)"), T("HändlerKlein"));
+        // The merchants are told as HSZ 2 to HSZ 7.
+        SchiffsZeile(s, y, "HSZ   " + Str(n - HAENDLER_ERSTES + 2) + T(" (Eigent. Händler)"), T("HändlerKlein"));
     }
     if (pl.Portal == -1) BILD(s, "PortalKlein", 380, 165);
 }
