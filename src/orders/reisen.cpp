@@ -17,11 +17,6 @@ constexpr Farbe GRAU = 120 + 120 * 256 + 120 * 65536;
 
 int System(int planet) { return (planet - 1) / 10; }
 
-void Cursor(Spiel& s, int z, Farbe f) {
-    if (z == SOL_III) s.plattform->kreis(750, 490, 3, f, false, s.Linienbreite);
-    else s.plattform->kreis(KarteX(s, z), KarteY(s, z), 2, f, false, s.Linienbreite);
-}
-
 bool Portalziel(const Spiel& s, int t, int schiff) {
     return s.Dokument(t).Portal == -1 && t != s.Schiffe(schiff).Planet;
 }
@@ -55,8 +50,17 @@ void Beschriftung(Spiel& s, int schiff, int z) {
     TEXT_AUSGEBEN(s, "Entfernung: " + Space(4 - static_cast<int>(Str(d).size())) + std::to_string(d), 15, 50, 690, WEISS);
 }
 
-// The nearest star in the quarter of the map that the key points to.
-int Richtungssuche(const Spiel& s, int z, int taste) {
+}  // namespace
+
+int KarteX(const Spiel& s, int planet) { return static_cast<int>(std::nearbyint(750 + 1.25 * s.Dokument(planet).X)); }
+int KarteY(const Spiel& s, int planet) { return static_cast<int>(std::nearbyint(490 + 1.25 * s.Dokument(planet).Y)); }
+
+void KARTEN_CURSOR(Spiel& s, int z, Farbe f) {
+    if (z == SOL_III) s.plattform->kreis(750, 490, 3, f, false, s.Linienbreite);
+    else s.plattform->kreis(KarteX(s, z), KarteY(s, z), 2, f, false, s.Linienbreite);
+}
+
+int RICHTUNGSSUCHE(const Spiel& s, int z, int taste) {
     const int zx = s.Dokument(z).X, zy = s.Dokument(z).Y;
     auto gut = [&](int cx, int cy) {
         const int dx = cx - zx, dy = cy - zy;
@@ -85,9 +89,7 @@ int Richtungssuche(const Spiel& s, int z, int taste) {
     return kandidat ? kandidat : z;
 }
 
-// The next star whose name begins with the letter; back in the cursor's own
-// system, or after one round from Sol, the cursor stays.
-int Buchstabensuche(const Spiel& s, int z0, int taste) {
+int BUCHSTABENSUCHE(const Spiel& s, int z0, int taste) {
     int z = z0;
     for (int runde = 0; runde <= s.AnzahlPlaneten / 10; ++runde) {
         z = System(z) * 10 + 11;
@@ -99,10 +101,32 @@ int Buchstabensuche(const Spiel& s, int z0, int taste) {
     return z0;
 }
 
-}  // namespace
-
-int KarteX(const Spiel& s, int planet) { return static_cast<int>(std::nearbyint(750 + 1.25 * s.Dokument(planet).X)); }
-int KarteY(const Spiel& s, int planet) { return static_cast<int>(std::nearbyint(490 + 1.25 * s.Dokument(planet).Y)); }
+int KARTEN_TASTE(const Spiel& s, int z, int taste, bool& richtung) {
+    const bool pfeil = taste == Taste::Hoch || taste == Taste::Runter || taste == Taste::Links || taste == Taste::Rechts;
+    if (taste == Taste::Leer) {
+        richtung = !richtung;
+    } else if (pfeil && richtung) {
+        return RICHTUNGSSUCHE(s, z, taste);
+    } else if (taste == Taste::Hoch) {
+        int neu = z + 1;
+        if (neu == 4) neu = 11;
+        if (neu > s.AnzahlPlaneten + 10) neu = SOL_III;
+        return neu;
+    } else if (taste == Taste::Runter) {
+        int neu = z - 1;
+        if (neu == 2) neu = s.AnzahlPlaneten + 10;
+        if (neu == 10) neu = SOL_III;
+        return neu;
+    } else if (taste >= 'A' && taste <= 'Z') {
+        return BUCHSTABENSUCHE(s, z, taste);
+    } else if (taste == Taste::Tab) {
+        const int neu = System(z) * 10 + 11;
+        return neu > s.AnzahlPlaneten ? 11 : neu;
+    } else if (taste == Taste::Punkt) {
+        return SOL_III;
+    }
+    return z;
+}
 
 void STERNKARTE(Spiel& s) {
     BOX(s, 502, 245, 998, 738, SCHWARZ);
@@ -136,7 +160,7 @@ void STERNKARTE(Spiel& s) {
 void ZIEL_WAEHLEN(Spiel& s, int schiff) {
     int z = s.Schiffe(schiff).Planet;
     bool richtung = false;
-    Cursor(s, z, WEISS);
+    KARTEN_CURSOR(s, z, WEISS);
     Beschriftung(s, schiff, z);
     for (;;) {
         const int c = TASTE_ABWARTEN(s);
@@ -148,33 +172,11 @@ void ZIEL_WAEHLEN(Spiel& s, int schiff) {
             s.Eingabe = z;
             return;
         }
-        int neu = z;
-        if (c == Taste::Leer) {
-            richtung = !richtung;
-        } else if ((c == Taste::Hoch || c == Taste::Runter) && !richtung) {
-            if (c == Taste::Hoch) {
-                neu = z + 1;
-                if (neu == 4) neu = 11;
-                if (neu > s.AnzahlPlaneten + 10) neu = 3;
-            } else {
-                neu = z - 1;
-                if (neu == 2) neu = s.AnzahlPlaneten + 10;
-                if (neu == 10) neu = 3;
-            }
-        } else if (richtung && (c == Taste::Hoch || c == Taste::Runter || c == Taste::Links || c == Taste::Rechts)) {
-            neu = Richtungssuche(s, z, c);
-        } else if (c >= 'A' && c <= 'Z') {
-            neu = Buchstabensuche(s, z, c);
-        } else if (c == Taste::Tab) {
-            neu = System(z) * 10 + 11;
-            if (neu > s.AnzahlPlaneten) neu = 11;
-        } else if (c == Taste::Punkt) {
-            neu = SOL_III;
-        }
+        const int neu = KARTEN_TASTE(s, z, c, richtung);
         if (neu != z) {
-            Cursor(s, z, SCHWARZ);
+            KARTEN_CURSOR(s, z, SCHWARZ);
             z = neu;
-            Cursor(s, z, WEISS);
+            KARTEN_CURSOR(s, z, WEISS);
         }
         Beschriftung(s, schiff, z);
     }
@@ -202,13 +204,13 @@ void ORDER_TELEPORTIEREN(Spiel& s, int schiff) {
     }
     STERNKARTE(s);
     Portalname(s, t);
-    Cursor(s, t, WEISS);
+    KARTEN_CURSOR(s, t, WEISS);
     for (;;) {
         const int c = TASTE_ABWARTEN(s);
         if (c == Taste::Esc) return;
         if (c == Taste::Enter) break;
         if (c == Taste::Hoch || c == Taste::Runter) {
-            Cursor(s, t, SCHWARZ);
+            KARTEN_CURSOR(s, t, SCHWARZ);
             do {
                 if (c == Taste::Hoch) {
                     if (++t > letzter) t = 3;
@@ -217,7 +219,7 @@ void ORDER_TELEPORTIEREN(Spiel& s, int schiff) {
                 }
             } while (!Portalziel(s, t, schiff));
             Portalname(s, t);
-            Cursor(s, t, WEISS);
+            KARTEN_CURSOR(s, t, WEISS);
         }
     }
     Schiff& sch = s.Schiffe(schiff);
