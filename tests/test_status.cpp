@@ -166,7 +166,8 @@ TEST(Status, AuswertungUndWeitereInformationenEinesSpielers) {
     ASSERT_EQ(n.Statistik(EST_DOCK_ANGEBOTEN, 2), 400);
     ASSERT_EQ(n.Statistik(EST_DOCK_BELEGT, 2), 200);
     ASSERT_EQ(n.Statistik(EST_BELEGT_BAU, 2), 50);
-    ASSERT_EQ(n.Bargeld(1) - n.Kredit(1), -2000);
+    // The bank took its 30 of repayment and 60 of interest in that year.
+    ASSERT_EQ(n.Bargeld(1) - n.Kredit(1), -2060);
 
     const size_t w = lauf.trace.find("print 510 250 15 255 Weitere Informationen:");
     const size_t w2 = lauf.trace.find("box 502 245 998 738 0", w);
@@ -178,7 +179,7 @@ TEST(Status, AuswertungUndWeitereInformationenEinesSpielers) {
             const auto v = Gedruckt(seite, x, y);
             return v.size() == 1 ? v[0] : "(" + std::to_string(v.size()) + " lines)";
         };
-        EXPECT_EQ(zeile(510, 250), Utf8("255 " + T("Vermögen:       ")) + "     -2000");
+        EXPECT_EQ(zeile(510, 250), Utf8("255 " + T("Vermögen:       ")) + "     -2060");
         EXPECT_EQ(zeile(510, 275).substr(0, 20), "255 Bewertung:      ");
         EXPECT_EQ(zeile(510, 300), "255 Anzahl Schiffe:          2");
         EXPECT_EQ(zeile(541, 348), "255 Getreide:" + std::string(15, ' ') + "1234");

@@ -8,50 +8,9 @@
 #include "screen/ausgabe.h"
 #include "state/codes.h"
 #include "state/text.h"
+#include "year/jahresende.h"
 
 namespace {
-
-// --- the worth of a house -----------------------------------------------------
-// STAND-IN: the guild's Bewertung of the year's end is the same figure with
-// the debt taken off. Until the year's end offers it, this copy computes it
-// here without the debt; once it does, call that one and drop this.
-Long BewertungOhneKredit(const Spiel& s, int p) {
-    long long w = s.Bargeld(p);
-    auto waren = [&](const Schiff& sch) {
-        long long summe = 0;
-        for (int g = 1; g <= ANZAHL_WAREN; ++g) summe += static_cast<long long>(s.Preis(g)) * sch.Fracht(g);
-        return summe;
-    };
-    for (int n = 1; n <= s.HoechstesSchiff && n < SCHIFF_GRENZE; ++n) {
-        const Schiff& sch = s.Schiffe(n);
-        if (IstFrei(sch) || sch.Besitzer != p) continue;
-        const double rest = 1.0 - sch.Schaden / 100.0;
-        double rumpf;
-        long long ladung = 0;
-        if (IstFrachter(sch)) {
-            rumpf = rest * (900 + 10 * sch.Laderaum + 50 * sch.Bewaffnung);
-            ladung = waren(sch);
-        } else if (IstTanker(sch)) {
-            rumpf = rest * (800 + 10 * sch.Laderaum + 50 * sch.Bewaffnung);
-            ladung = 30LL * sch.Fracht(FRACHT_SPRIT);
-        } else if (IstKreuzer(sch)) {
-            rumpf = rest * (470 + 70 * sch.Bewaffnung);
-        } else if (IstStation(sch)) {
-            rumpf = rest * (2000 + 50 * sch.Bewaffnung);
-            ladung = waren(sch) + 30LL * sch.Fracht(FRACHT_SPRIT);
-        } else {
-            rumpf = rest * 400;  // scouts, and great freighters count no more
-        }
-        // The running total is rounded after each hull, a half to the even.
-        w = static_cast<long long>(std::nearbyint(static_cast<double>(w) + rumpf)) + ladung;
-    }
-    for (int g = 1; g <= ANZAHL_WAREN; ++g) w += static_cast<long long>(s.Lager(g, p)) * s.Preis(g);
-    long long erfindungen = 0;  // the columns of the inventions, and the next one, which is never set
-    for (int k = 1; k <= ANZAHL_ERFINDUNGEN + 1; ++k)
-        if (s.Forschung(k, p) == -1) ++erfindungen;
-    w += 2500 * erfindungen * erfindungen;
-    return static_cast<Long>(w);
-}
 
 void Rot(Spiel& s, const std::string& text, int y) { TEXT_AUSGEBEN(s, text, 15, 510, y, ROT); }
 
@@ -67,7 +26,7 @@ void Auswertung(Spiel& s, long anzahl) {
     const int p = s.AktSpieler;
     BOX(s, 502, 245, 998, 738, SCHWARZ);
     Rot(s, T("Vermögen:       ") + Rechtsbuendig(static_cast<long long>(s.Bargeld(p)) - s.Kredit(p), 10), 250);
-    Rot(s, "Bewertung:      " + Rechtsbuendig(BewertungOhneKredit(s, p), 10), 275);
+    Rot(s, "Bewertung:      " + Rechtsbuendig(BEWERTUNG(s, p, true), 10), 275);
     Rot(s, "Anzahl Schiffe: " + Rechtsbuendig(anzahl, 10), 300);
     Rot(s, "Verkaufte Waren:", 325);
     for (int g = 1; g <= ANZAHL_WAREN; ++g) {
