@@ -1,4 +1,6 @@
-// Choosing a ship, the order menu and the travel orders.
+// Choosing a ship, the order menu, the travel orders and the star map.
+#include <sstream>
+
 #include "flow/hauptschleife.h"
 #include "hilfe.h"
 #include "orders/anweisen.h"
@@ -227,18 +229,44 @@ TEST(Anweisen, SchiffWaehlenMitTastenUndNummer) {
     EXPECT_NE(werft.p->spur().find("Raumschiff ist in der Werft!"), std::string::npos);
 }
 
-TEST(Meldung, SchiffUndPlanetAusDerZeile) {
-    bool da = false;
-    EXPECT_EQ(SCHIFF_IN_MELDUNG("SST 12 landet auf Wega III", true, da), 12);
-    EXPECT_TRUE(da);
-    EXPECT_EQ(SCHIFF_IN_MELDUNG("FSS 3 greift SST 17 an", true, da), 17) << "by code order, not position";
-    EXPECT_EQ(SCHIFF_IN_MELDUNG(" XS 8 landet auf Deneb I", true, da), 8);
-    EXPECT_EQ(SCHIFF_IN_MELDUNG(" XS 8 landet auf Deneb I", false, da), 0);
-    EXPECT_FALSE(da) << "no scout links on a paged list";
-    EXPECT_EQ(SCHIFF_IN_MELDUNG(T("Hauptquartier zerstört von FSS 5"), true, da), 0);
-    EXPECT_TRUE(da);
-    EXPECT_EQ(SCHIFF_IN_MELDUNG("Wega II produziert 12t Getreide", true, da), 0);
-    EXPECT_FALSE(da);
+TEST(Sternkarte, FarbenLinienUndTeleport) {
+    // Stars 11..51 lie at x 775, 800, 850, 875 on the row of Sol (750, 490); Capella above.
+    Galaxie g;
+    g.s->AktSpieler = 2;
+    auto reise = [&](int nr, int besitzer, int von, int nach) {
+        Schiff& sch = g.schiff(nr, "SST ", nach, besitzer);
+        sch.Zustand = 1;
+        sch.StartPlanet = static_cast<Integer>(von);
+    };
+    reise(1, 2, 11, 41);   // own: cyan line back to the start
+    reise(2, 2, -11, 21);  // own teleport: no line
+    reise(3, 1, 3, 51);    // another player's: blue
+    reise(4, 1, -21, 41);  // another player's teleport: no line
+    reise(5, 7, 21, 11);   // pirates: grey
+    g.schiff(6, "SST ", 3, 2);   // at Sol: no dot
+    g.schiff(7, "TSR ", 21, 2);  // at rest: a dot
+    g.p->spurAufzeichnen(true);
+    g.laufen([](Spiel& s) { STERNKARTE(s); });
+    std::string linien, punkte;
+    std::istringstream spur(g.p->spur());
+    for (std::string z; std::getline(spur, z);) {
+        if (z.rfind("line ", 0) == 0) linien += z + "\n";
+        if (z.rfind("circle ", 0) == 0 && z.find(" 65535 ") == std::string::npos) punkte += z + "\n";
+    }
+    EXPECT_EQ(linien,
+              "line 850 490 775 490 16776960 1\n"
+              "line 875 490 750 490 16711680 1\n"
+              "line 775 490 800 490 7895160 1\n");
+    EXPECT_EQ(punkte,
+              "circle 750 490 2 16777215 filled\n"
+              "circle 850 490 1 16776960 filled\n"
+              "circle 800 490 1 16776960 filled\n"
+              "circle 875 490 1 16711680 filled\n"
+              "circle 850 490 1 16711680 filled\n"
+              "circle 775 490 1 7895160 filled\n"
+              "circle 800 490 1 16776960 filled\n");
+    EXPECT_NE(g.p->spur().find("circle 775 490 1 65535 filled"), std::string::npos) << "a yellow star";
+    EXPECT_NE(g.p->spur().find("box 502 245 998 738 0"), std::string::npos) << "the news are covered";
 }
 
 TEST(Meldung, KlickAufEineZeileOeffnetDasSchiff) {

@@ -129,7 +129,7 @@ TEST(ZahlEingeben, ZiffernMitGrenzen) {
     EXPECT_EQ(Zahl("key M\nkey ENTER", 0, 9, 4), 4) << "M is for a ship only";
 }
 
-TEST(ZahlEingeben, TasteMBietetDieHoechstmoeglicheLadung) {
+TEST(ZahlEingeben, TasteMUndPfeileHaltenAnDenGrenzen) {
     auto frachter = [](Long bestand, Integer ladung, Long bargeld) {
         auto* s = new Spiel;
         s->AktSpieler = 1;
@@ -144,6 +144,16 @@ TEST(ZahlEingeben, TasteMBietetDieHoechstmoeglicheLadung) {
     EXPECT_EQ(Zahl("key M\nkey ENTER", 0, 9, 0, 8, frachter(4599, 0, 100000)), 45) << "the stock, in whole tonnes";
     EXPECT_EQ(Zahl("key M\nkey ENTER", 0, 9, 0, 8, frachter(12345, 30, 100000)), 70) << "the free hold";
     EXPECT_EQ(Zahl("key M\nkey ENTER", 0, 9, 0, 8, frachter(12345, 30, 505)), 50) << "the cash";
+    // Up holds at Max and Down at Min, also where M, Blank or Backspace left the value outside.
+    EXPECT_EQ(Zahl("key M\nkey UP\nkey ENTER", 0, 9, 0, 8, frachter(4599, 0, 100000)), 9);
+    EXPECT_EQ(Zahl("key M\nkey DOWN\nkey ENTER", 0, 9, 0, 8, frachter(4599, 0, 100000)), 44);
+    EXPECT_EQ(Zahl("key SPACE\nkey DOWN\nkey ENTER", 5, 9), 5);
+    EXPECT_EQ(Zahl("key SPACE\nkey UP\nkey ENTER", 5, 9), 1) << "Up only knows Max";
+    EXPECT_EQ(Zahl("key BACKSPACE\nkey DOWN\nkey ENTER", 50, 90, 60), 50);
+    EXPECT_EQ(Zahl("key BACKSPACE\nkey UP\nkey ENTER", 50, 90, 60), 7);
+    TestSpiel t("key SPACE\nkey DOWN\nkey ENTER");
+    t.laufen([](Spiel& s) { ZAHL_EINGEBEN(s, 5, 9, 150, 630, 15, WEISS, 5, 0, 0); });
+    EXPECT_EQ(t.textBei(150, 630), "    5") << "the held value is shown";
 }
 
 TEST(Ereignisse, FunktionstastenErreichenDieEingabeNicht) {

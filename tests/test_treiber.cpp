@@ -114,6 +114,73 @@ TEST(Treiber, FensterSchliessenOhneSichernEndetSofort) {
     EXPECT_NE(lauf.trace.find("music stop"), std::string::npos);
 }
 
+TEST(Spielstand, FesteBytesAnIhrenStellen) {
+    Spiel s;
+    s.AnzahlSpieler = 3;
+    s.SpielerName(1) = "Anna";
+    s.SpielerName(7) = "Piraten";
+    s.Lager(3, 2) = 0x0102;
+    s.Lager(2, 3) = 0x0304;
+    s.Bargeld(2) = 0x11223344;
+    Schiff& f = s.Schiffe(2);
+    f.Name = "Frachter   ";
+    f.Typ = "SST ";
+    f.Treibstoff = 2.5f;
+    f.Fracht(1) = 0x0A0B;
+    f.Fracht(2) = 0x0C0D;
+    f.Fracht(25) = 0x0E0F;
+    f.Partner = 0x0607;
+    f.Supersprit = -1;
+    Planet& p = s.Dokument(2);
+    p.Name = "Wega ";
+    p.X = 0x1357;
+    p.Y = 0x2468;
+    p.Bestand = 0x01020304;
+    s.DockSchiffe(1, 2) = 17;  // player 2's docks: 17, 4, 9
+    s.DockSchiffe(2, 2) = 4;
+    s.DockSchiffe(3, 2) = 9;
+    s.Statistik(21, 1) = 0x0A0B0C0D;
+    s.Forschung(15, 2) = 0x0506;
+    s.ForschungsKosten(15) = 0x07080910;
+    const std::vector<uint8_t> b = SPIELSTAND_BYTES(s);
+    auto i16 = [&](size_t o) { return static_cast<int16_t>(b.at(o) | b.at(o + 1) << 8); };
+    auto i32 = [&](size_t o) { return static_cast<int32_t>(b.at(o) | b.at(o + 1) << 8 | b.at(o + 2) << 16 | b.at(o + 3) << 24); };
+
+    // Items 1-5, then the seven names with their lengths: "Anna" and "Piraten".
+    const size_t lager = 4 + 4 + 2 + 2 + 2 + 7 * 2 + 4 + 7;
+    EXPECT_EQ(i16(14), 4);
+    EXPECT_EQ(i16(lager + 2 * (20 + 2)), 0x0102) << "good 3 of player 2: the goods of a player together";
+    EXPECT_EQ(i16(lager + 2 * (40 + 1)), 0x0304);
+    EXPECT_EQ(i32(lager + 240 + 4), 0x11223344);
+    const size_t schiff2 = lager + 240 + 24 + 3 * 12 + 2 + 82;  // slot 1 is free: two empty strings
+    EXPECT_EQ(i32(schiff2 + 4), 0x40200000) << "Treibstoff 2.5 as a single";
+    EXPECT_EQ(i16(schiff2 + 12), 11);
+    EXPECT_EQ(i16(schiff2 + 25), 4);
+    EXPECT_EQ(b[schiff2 + 27], 'S');
+    const size_t fracht = schiff2 + 12 + 2 + 11 + 2 + 4;
+    EXPECT_EQ(i16(fracht), 0x0A0B);
+    EXPECT_EQ(i16(fracht + 2), 0x0C0D);
+    EXPECT_EQ(i16(fracht + 48), 0x0E0F);
+    EXPECT_EQ(i16(fracht + 50 + 4), 0x0607) << "Partner behind Ladung and Laderaum";
+    EXPECT_EQ(i16(fracht + 50 + 14), -1) << "Supersprit closes the record";
+    const size_t planeten = schiff2 + 82 + 15 + 1009 * 82 + 2;
+    const size_t wega = planeten + 20;
+    EXPECT_EQ(i16(wega), 5);
+    EXPECT_EQ(i16(wega + 7 + 2), 0x1357) << "X before Y";
+    EXPECT_EQ(i16(wega + 7 + 4), 0x2468);
+    EXPECT_EQ(i32(wega + 7 + 6), 0x01020304);
+    const size_t docks = wega + 20 + 5 + 4008 * 20 + 3 * 40;
+    EXPECT_EQ(i16(docks + 14), 17) << "player 2's seven places follow player 1's";
+    EXPECT_EQ(i16(docks + 16), 4);
+    EXPECT_EQ(i16(docks + 18), 9);
+    const size_t statistik = docks + 84 + 10 + 2 + 10;
+    EXPECT_EQ(i32(statistik + 4 * 20), 0x0A0B0C0D);
+    const size_t forschung = statistik + 504 + 24;
+    EXPECT_EQ(i16(forschung + 2 * (15 + 14)), 0x0506);
+    EXPECT_EQ(i32(forschung + 180 + 56), 0x07080910);
+    EXPECT_EQ(b.size(), forschung + 180 + 60);
+}
+
 TEST(Spielstand, BeschaedigteDatenWerdenAbgewiesen) {
     TreiberLauf lauf = Treiber(NeuesSpielSkript(1, 100));
     ASSERT_FALSE(lauf.state.empty());
