@@ -235,17 +235,6 @@ TEST(Markt, VerkaufUndTafel) {
     EXPECT_NE(leer.p->spur().find("Keine Waren auf Lager!"), std::string::npos);
 }
 
-TEST(Meldungen, UeberlaufWirdGezaehlt) {
-    Welt w;
-    for (int i = 1; i <= 200; ++i) MELDUNG_NEU(w.s, "Zeile " + std::to_string(i), CYAN);
-    EXPECT_EQ(w.s.MeldungAnzahl, 200);
-    EXPECT_EQ(w.s.MeldungText(200), "Zeile 200") << "a full table keeps all its lines";
-    for (int i = 201; i <= 250; ++i) MELDUNG_NEU(w.s, "Zeile " + std::to_string(i), CYAN);
-    EXPECT_EQ(w.s.MeldungAnzahl, 200);
-    EXPECT_EQ(w.s.MeldungText(199), "Zeile 199");
-    EXPECT_EQ(w.s.MeldungText(200), "-- 51 weitere Meldungen fehlen --") << "lines 200 to 250";
-}
-
 TEST(Jahr, HundertJahreDerGroesstenWelt) {
     TestSpiel t;
     Spiel& s = *t.s;
