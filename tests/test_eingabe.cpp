@@ -56,28 +56,21 @@ TEST(JaNein, TastenUndErgebnis) {
     }
 }
 
-TEST(Auswahl, BlaetternHaeltAnDenEnden) {
-    EXPECT_EQ(Auswahl("key UP\nkey ENTER", 5), 5);
-    EXPECT_EQ(Auswahl("key DOWN\nkey ENTER", 1), 1);
-    EXPECT_EQ(Auswahl("key DOWN\nkey ENTER", 4), 2) << "empty entries are skipped";
-    EXPECT_EQ(Auswahl("key UP\nkey ENTER", 2), 4);
-    EXPECT_EQ(Auswahl("key ENTER", 3), 4) << "the start moves on past an empty entry";
-    EXPECT_EQ(Auswahl("key ESC", 2), -1);
-}
-
-TEST(Auswahl, AnfangsbuchstabenSuchenMitUmlauf) {
-    EXPECT_EQ(Auswahl("key B\nkey ENTER", 1), 2);
-    EXPECT_EQ(Auswahl("key B\nkey B\nkey ENTER", 1), 4);
-    EXPECT_EQ(Auswahl("key B\nkey B\nkey B\nkey ENTER", 1), 2) << "the search wraps from the last entry";
-    EXPECT_EQ(Auswahl("key A\nkey ENTER", 1), 1) << "only the current entry matches: nothing moves";
-    EXPECT_EQ(Auswahl("key Q\nkey ENTER", 2), 2);
-}
-
-TEST(Auswahl, EigeneTastenListe) {
-    const auto tasten = Liste({"X", "Y", "", "Z", "W"});
-    EXPECT_EQ(Auswahl("key Z\nkey ENTER", 1, tasten), 4);
-    EXPECT_EQ(Auswahl("key Q\nkey ENTER", 1, tasten), 1);
-    EXPECT_EQ(Auswahl("key W\nkey UP\nkey ENTER", 1, tasten), 5);
+TEST(Auswahl, BlaetternUndAnfangsbuchstaben) {
+    const auto eigene = Liste({"X", "Y", "", "Z", "W"});
+    struct Fall { const char* skript; Long vorgabe; bool eigeneTasten; Long eingabe; };
+    const Fall faelle[] = {
+        {"key UP\nkey ENTER", 5, false, 5},   {"key DOWN\nkey ENTER", 1, false, 1},  // held at the ends
+        {"key DOWN\nkey ENTER", 4, false, 2}, {"key UP\nkey ENTER", 2, false, 4},    // empty entries skipped
+        {"key ENTER", 3, false, 4},            {"key ESC", 2, false, -1},
+        {"key B\nkey ENTER", 1, false, 2},    {"key B\nkey B\nkey ENTER", 1, false, 4},
+        {"key B\nkey B\nkey B\nkey ENTER", 1, false, 2},  // the search wraps
+        {"key A\nkey ENTER", 1, false, 1},    {"key Q\nkey ENTER", 2, false, 2},
+        {"key Z\nkey ENTER", 1, true, 4},     {"key Q\nkey ENTER", 1, true, 1},
+        {"key W\nkey UP\nkey ENTER", 1, true, 5},
+    };
+    for (const Fall& f : faelle)
+        EXPECT_EQ(Auswahl(f.skript, f.vorgabe, f.eigeneTasten ? eigene : Liste({"*"})), f.eingabe) << f.skript << " from " << f.vorgabe;
 }
 
 TEST(Auswahl, KlickAufPlanetOderSchiffWaehltUndBestaetigt) {
