@@ -80,15 +80,6 @@ TEST(Handel, HinKaufenHeimVerkaufen) {
     EXPECT_NE(l5.screen.find("SST 1 (Anna) gelandet auf Sol III"), std::string::npos);
 }
 
-TEST(Handel, NotrufImSelbenZug) {
-    const std::string start = NeuesSpielSkript(1, 5000, {"Anna"});
-    const Spiel s = ZustandAus(Treiber(start + "key R\nkey ENTER\nkey ENTER\nkey ENTER\nkey TAB\nkey TAB\nkey ENTER\n"
-                                            "key R\nkey ENTER\nkey ENTER\nkey ENTER\n"));
-    EXPECT_EQ(s.Schiffe(1).Zustand, 0) << "called back before it moved: at rest at home";
-    EXPECT_EQ(s.Schiffe(1).Planet, SOL_III);
-    EXPECT_EQ(s.Schiffe(1).Dauer, 0);
-}
-
 TEST(Lagerbestand, ZeilenBilderUndKredit) {
     TestSpiel t;
     Spiel& s = *t.s;
