@@ -38,69 +38,47 @@ struct News : TestSpiel {
 
 }  // namespace
 
-TEST(Meldung, NeunzehnZeilenEineSeiteAbZwanzigSeitenZuSiebzehn) {
+TEST(Meldung, EineSeiteBisNeunzehnDannSeitenZuSiebzehnImRing) {
+    // rows at y 255 to 705, 25 apart; the click rows 510..990 and 20 high; unused rows cannot be hit
+    auto feld = [](const News& n, int r) {
+        const KlickFeld& k = n.s->KlickFelder(r);
+        return std::to_string(static_cast<int>(k.X1)) + "," + std::to_string(static_cast<int>(k.Y1)) + "-" +
+               std::to_string(static_cast<int>(k.X2)) + "," + std::to_string(static_cast<int>(k.Y2)) + " " +
+               std::to_string(k.Schiff) + " " + std::to_string(k.Planet);
+    };
     News a(19);
+    a.s->MeldungText(2).clear();
     a.zeigen();
-    EXPECT_EQ(a.zeilen(), 19);
+    EXPECT_EQ(a.zeilen(), 18) << "an empty line draws nothing";
     EXPECT_EQ(a.zeile(19), "Zeile 19");
     EXPECT_FALSE(a.hinweis());
     EXPECT_NE(a.bildschirm().find("text\t510\t255\t15\t16776960\tZeile 1\n"), std::string::npos) << "in its colour";
-    const KlickFeld& k = a.s->KlickFelder(19);
-    EXPECT_EQ(k.X1, 510);
-    EXPECT_EQ(k.Y1, 705);
-    EXPECT_EQ(k.X2, 990);
-    EXPECT_EQ(k.Y2, 725);
-    EXPECT_EQ(a.s->KlickFelder(20).Y1, 0);
-    EXPECT_EQ(a.s->KlickFelder(20).Y2, 0);
+    EXPECT_EQ(feld(a, 19), "510,705-990,725 -1 -1");
+    EXPECT_EQ(feld(a, 20), "0,0-0,0 -1 -1");
 
     News b(20);
     b.zeigen();
     EXPECT_EQ(b.zeilen(), 17);
     EXPECT_EQ(b.zeile(17), "Zeile 17");
     EXPECT_TRUE(b.hinweis()) << "printed behind the rows, so it stays";
-    EXPECT_EQ(b.s->KlickFelder(17).Y1, 655);
-    for (int r = 18; r <= 20; ++r) {
-        EXPECT_EQ(b.s->KlickFelder(r).Y1, 0) << r;
-        EXPECT_EQ(b.s->KlickFelder(r).Y2, 0) << r;
-        EXPECT_EQ(b.s->KlickFelder(r).Schiff, -1) << r;
+    EXPECT_EQ(feld(b, 17), "510,655-990,675 -1 -1");
+    for (int r = 18; r <= 20; ++r) EXPECT_EQ(feld(b, r), "0,0-0,0 -1 -1") << r;
+
+    // F3 leafs in a ring; 18 lines stay one page whatever the page number; 17 never leave page 1.
+    struct Fall { int zeilen, f3, seite, zeile1, zeile6; };
+    const Fall faelle[] = {{40, 1, 2, 18, 23}, {40, 2, 3, 35, 40}, {40, 3, 1, 1, 6}, {18, 1, 2, 1, 6}, {17, 1, 1, 1, 6}};
+    for (const Fall& f : faelle) {
+        std::string k;
+        for (int i = 0; i < f.f3; ++i) k += "key F3\n";
+        News n(f.zeilen, k + "key ENTER");
+        n.zeigen();
+        SCOPED_TRACE(std::to_string(f.zeilen) + " lines, F3 x" + std::to_string(f.f3));
+        EXPECT_EQ(n.s->MeldungSeite, f.seite);
+        EXPECT_EQ(n.zeile(1), "Zeile " + std::to_string(f.zeile1));
+        EXPECT_EQ(n.zeile(6), "Zeile " + std::to_string(f.zeile6));
+        EXPECT_EQ(n.zeile(7), f.zeile6 == 40 ? "" : "Zeile " + std::to_string(f.zeile6 + 1)) << "past the end of the list";
+        EXPECT_EQ(n.s->KlickFelder(7).Y1, 405);
     }
-
-    News leer(3);
-    leer.s->MeldungText(2).clear();
-    leer.zeigen();
-    EXPECT_EQ(leer.zeilen(), 2) << "an empty line draws nothing";
-    EXPECT_EQ(leer.s->KlickFelder(19).Y1, 705) << "all 19 rows of a single page can be hit";
-}
-
-TEST(Meldung, F3BlaettertImRing) {
-    News zwei(40, "key F3\nkey ENTER");
-    zwei.zeigen();
-    EXPECT_EQ(zwei.s->MeldungSeite, 2);
-    EXPECT_EQ(zwei.zeile(1), "Zeile 18");
-    EXPECT_EQ(zwei.zeile(17), "Zeile 34");
-
-    News drei(40, "key F3\nkey F3\nkey ENTER");
-    drei.zeigen();
-    EXPECT_EQ(drei.zeile(6), "Zeile 40");
-    EXPECT_EQ(drei.zeile(7), "") << "past the end of the list";
-    EXPECT_EQ(drei.s->KlickFelder(7).Y1, 405);
-    EXPECT_EQ(drei.s->KlickFelder(7).Schiff, -1);
-    EXPECT_TRUE(drei.hinweis());
-
-    News rund(40, "key F3\nkey F3\nkey F3\nkey ENTER");
-    rund.zeigen();
-    EXPECT_EQ(rund.s->MeldungSeite, 1);
-    EXPECT_EQ(rund.zeile(1), "Zeile 1");
-
-    News achtzehn(18, "key F3\nkey ENTER");
-    achtzehn.zeigen();
-    EXPECT_EQ(achtzehn.s->MeldungSeite, 2);
-    EXPECT_EQ(achtzehn.zeile(1), "Zeile 1") << "18 lines stay one page, whatever the page number";
-    EXPECT_EQ(achtzehn.zeile(18), "Zeile 18");
-
-    News siebzehn(17, "key F3\nkey ENTER");
-    siebzehn.zeigen();
-    EXPECT_EQ(siebzehn.s->MeldungSeite, 1);
 }
 
 TEST(Meldung, ZeilenVerweisenAufSchiffOderPlanet) {
