@@ -51,55 +51,37 @@ TEST(NeuesSpiel, FrachterJeSpielerPiratenUndDialoggrenzen) {
 TEST(SchiffNeu, FreierPlatzDockListeUndBauzeit) {
     TestSpiel t;
     Spiel& s = *t.s;
-    s.AktSpieler = 1;
     s.Bargeld(1) = 50000;
-    s.Schiffe(1).Name = "x";
-    s.Schiffe(2).Name = "x";
-    s.Schiffe(5).Name = "x";
-    s.DockSchiffe(1, 1) = 4;  // pretend 4 and 9 are in the docks
+    for (int i : {1, 2, 4, 5, 6}) s.Schiffe(i).Name = "x";
+    s.DockSchiffe(1, 1) = 4;  // 4 and 9 are in the docks
     s.DockSchiffe(2, 1) = 9;
-    t.laufen([](Spiel& sp) { SCHIFF_NEU(sp, 1); });
-    EXPECT_EQ(s.Schiffe(3).Typ, "SST ") << "the lowest free slot";
-    s.Schiffe(4).Name = "x";
-    s.DockSchiffe(1, 1) = 4;
-    s.DockSchiffe(2, 1) = 9;
-    s.DockSchiffe(3, 1) = 0;
-    for (int i = 6; i <= 6; ++i) s.Schiffe(i).Name = "x";
     t.laufen([](Spiel& sp) { SCHIFF_NEU(sp, 6); });
-    EXPECT_EQ(s.Schiffe(7).Typ, "XXL ");
-    EXPECT_EQ(s.DockSchiffe(1, 1), 4);
-    EXPECT_EQ(s.DockSchiffe(2, 1), 7);
-    EXPECT_EQ(s.DockSchiffe(3, 1), 9);
-    EXPECT_EQ(s.HoechstesSchiff, 7);
-    EXPECT_EQ(s.Schiffe(7).Dauer, 25);
-    EXPECT_EQ(s.Schiffe(7).Zustand, -1);
-    EXPECT_EQ(s.Schiffe(7).Laderaum, 200);
-    EXPECT_EQ(s.Bargeld(1), 50000 - 1000 - 10000);
-    EXPECT_EQ(s.Statistik(6, 2), 11000);
+    const Schiff& x = s.Schiffe(3);
+    EXPECT_TRUE(x.Typ == "XXL " && x.Dauer == 25 && x.Zustand == -1 && x.Laderaum == 200) << "the lowest free slot";
+    EXPECT_EQ(s.DockSchiffe(1, 1) * 10000 + s.DockSchiffe(2, 1) * 100 + s.DockSchiffe(3, 1), 30409) << "3, 4, 9: ascending";
+    EXPECT_EQ(s.HoechstesSchiff, 6) << "it never goes down";
+    EXPECT_EQ(s.Bargeld(1), 50000 - 10000);
+    EXPECT_EQ(s.Statistik(6, 2), 10000);
 
     s.Statistik(16, 1) = 1;  // Flopse sold: the yards take a fifth longer
-    for (int i = 8; i <= 20; ++i) s.Schiffe(i).Name = "x";
-    s.Schiffe(15).Name.clear();
+    for (int i = 7; i <= 20; ++i) s.Schiffe(i).Name = i == 15 ? "" : "x";
     t.laufen([](Spiel& sp) { SCHIFF_NEU(sp, 1); });
     EXPECT_EQ(s.Schiffe(15).Dauer, 12);
     EXPECT_EQ(s.DockSchiffe(4, 1), 15) << "behind the last filled place";
     EXPECT_EQ(s.HoechstesSchiff, 15);
 
     for (int i = 1; i <= 999; ++i) s.Schiffe(i).Name = "x";
-    const Long vorher = s.Bargeld(1);
     t.p->spurAufzeichnen(true);
     t.laufen([](Spiel& sp) { SCHIFF_NEU(sp, 3); });
-    EXPECT_EQ(s.Bargeld(1), vorher);
+    EXPECT_EQ(s.Bargeld(1), 40000 - 1000);
     EXPECT_NE(t.p->spur().find("Zu viele Schiffe!"), std::string::npos);
 }
 
 TEST(SchiffVerkaufen, WertNachTypUndSchaden) {
     Spiel s;
     auto wert = [&](const char* typ, Integer laderaum, Integer waffen, Integer schaden) {
-        s.Schiffe(1).Typ = typ;
-        s.Schiffe(1).Laderaum = laderaum;
-        s.Schiffe(1).Bewaffnung = waffen;
-        s.Schiffe(1).Schaden = schaden;
+        Schiff& sch = s.Schiffe(1);
+        sch.Typ = typ, sch.Laderaum = laderaum, sch.Bewaffnung = waffen, sch.Schaden = schaden;
         return SCHIFF_WERT(s, 1);
     };
     EXPECT_EQ(wert("SST ", 10, 0, 0), 800);
@@ -108,56 +90,39 @@ TEST(SchiffVerkaufen, WertNachTypUndSchaden) {
     EXPECT_EQ(wert("TST ", 10, 0, 0), 720);
     EXPECT_EQ(wert("FSS ", 0, 4, 0), 600);
     EXPECT_EQ(wert("TSR ", 90, 0, 0), 1600);
-    EXPECT_EQ(wert(" XS ", 0, 0, 0), 320);
     EXPECT_EQ(wert("XXL ", 200, 0, 0), 320);
 }
 
 TEST(SchiffVerkaufen, NurFreieSchiffeAufSolIII) {
-    auto aufbau = [](const std::string& skript) {
-        auto t = std::make_unique<TestSpiel>(skript);
-        Spiel& s = *t->s;
-        s.HoechstesSchiff = 6;
+    // 1 and 4 may be sold: 2 is coupled to 5, 3 in the yard, 6 somebody else's.
+    struct Fall { const char* skript; int letztes, verkauft; Long bargeld; int letztesDanach; };
+    const Fall faelle[] = {
+        {"key ENTER", 0, 1, 5800, -1},            {"key UP\nkey UP\nkey ENTER", 0, 1, 5800, -1},
+        {"key DOWN\nkey ENTER", 4, 4, 5320, 5},   {"key SPACE\nkey 2\nkey ENTER\nkey ENTER", 0, 4, 5320, -1},
+        {"key SPACE\nkey 9\nkey ESC", 0, 0, 5000, 0},
+    };
+    for (const Fall& f : faelle) {
+        TestSpiel t(f.skript);
+        Spiel& s = *t.s;
         const char* typen[] = {"SST ", "SST ", "FSS ", " XS ", "TSR ", "SST "};
         for (int i = 1; i <= 6; ++i) {
             Schiff& sch = s.Schiffe(i);
-            sch.Typ = typen[i - 1];
-            sch.Name = "Schiff";
-            sch.Besitzer = 1;
-            sch.Planet = 3;
+            sch.Typ = typen[i - 1], sch.Name = "Schiff", sch.Besitzer = 1, sch.Planet = 3, sch.Laderaum = 10;
             sch.Bewaffnung = sch.Typ == "FSS " ? 4 : 0;
-            sch.Laderaum = 10;
         }
-        s.Schiffe(2).Partner = 5;  // coupled
-        s.Schiffe(5).Partner = 2;
-        s.Schiffe(3).Zustand = -1;  // in the yard
-        s.Schiffe(6).Besitzer = 2;  // somebody else's
-        return t;
-    };
-    auto t = aufbau("key ENTER");
-    t->laufen([](Spiel& s) { SCHIFF_VERKAUFEN(s); });
-    EXPECT_TRUE(t->s->Schiffe(1).Typ.empty()) << "the first sellable ship is offered first";
-    EXPECT_EQ(t->s->Bargeld(1), 5800);
-    EXPECT_EQ(t->s->Schiffe(1).Besitzer, 0);
-
-    auto u = aufbau("key UP\nkey UP\nkey ENTER");
-    u->laufen([](Spiel& s) { SCHIFF_VERKAUFEN(s); });
-    EXPECT_TRUE(u->s->Schiffe(1).Typ.empty()) << "only 1 and 4 are sellable; Up twice comes round to 1";
-    auto v = aufbau("key DOWN\nkey ENTER");
-    v->s->LetztesSchiff = 4;
-    v->laufen([](Spiel& s) { SCHIFF_VERKAUFEN(s); });
-    EXPECT_TRUE(v->s->Schiffe(4).Typ.empty());
-    EXPECT_EQ(v->s->Bargeld(1), 5320);
-    EXPECT_EQ(v->s->LetztesSchiff, 5) << "the next ship of the player";
-
-    auto w = aufbau("key SPACE\nkey 2\nkey ENTER\nkey ENTER");
-    w->laufen([](Spiel& s) { SCHIFF_VERKAUFEN(s); });
-    EXPECT_FALSE(w->s->Schiffe(2).Typ.empty()) << "a coupled ship is never sold";
-    EXPECT_TRUE(w->s->Schiffe(4).Typ.empty()) << "the entry leads to the next sellable ship";
-
-    auto x = aufbau("key SPACE\nkey 9\nkey ESC");
-    x->laufen([](Spiel& s) { SCHIFF_VERKAUFEN(s); });
-    EXPECT_EQ(x->s->Bargeld(1), 5000);
-    EXPECT_EQ(x->textBei(50, 690), "Nummer:   0") << "9 is above HoechstesSchiff and refused";
+        s.Schiffe(2).Partner = 5, s.Schiffe(5).Partner = 2, s.Schiffe(3).Zustand = -1, s.Schiffe(6).Besitzer = 2;
+        s.LetztesSchiff = static_cast<Integer>(f.letztes);
+        t.laufen([](Spiel& sp) { SCHIFF_VERKAUFEN(sp); });
+        SCOPED_TRACE(f.skript);
+        for (int i = 1; i <= 6; ++i) EXPECT_EQ(s.Schiffe(i).Typ.empty(), i == f.verkauft) << i;
+        EXPECT_EQ(s.Bargeld(1), f.bargeld);
+        if (f.verkauft) {
+            EXPECT_EQ(s.Schiffe(f.verkauft).Besitzer, 0);
+            EXPECT_TRUE(f.letztesDanach < 0 || s.LetztesSchiff == f.letztesDanach) << "the next ship of the player";
+        } else {
+            EXPECT_EQ(t.textBei(50, 690), "Nummer:   0") << "9 is above HoechstesSchiff and refused";
+        }
+    }
 }
 
 // The panel of every type at rest is a golden picture; these are the states it does not show.
