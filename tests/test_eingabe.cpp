@@ -94,10 +94,8 @@ TEST(Auswahl, KlickAufPlanetOderSchiffWaehltUndBestaetigt) {
     TestSpiel u("click 600 260\nclick 600 285");
     Spiel& v = *u.s;
     v.Bildschirm = "HAUPT";
-    v.Schiffe(4).Planet = 3;
-    v.Schiffe(4).Besitzer = 2;
-    v.Schiffe(5).Planet = 3;
-    v.Schiffe(5).Besitzer = 1;
+    v.Schiffe(4).Planet = 3, v.Schiffe(4).Besitzer = 2;
+    v.Schiffe(5).Planet = 3, v.Schiffe(5).Besitzer = 1;
     v.KlickFelder(1) = KlickFeld{510, 255, 990, 275, 4, -1};
     v.KlickFelder(2) = KlickFeld{510, 280, 990, 300, 5, -1};
     vorgabe = 1;
@@ -125,13 +123,9 @@ TEST(ZahlEingeben, ZiffernMitGrenzen) {
 TEST(ZahlEingeben, TasteMUndPfeileHaltenAnDenGrenzen) {
     auto frachter = [](Long bestand, Integer ladung, Long bargeld) {
         auto* s = new Spiel;
-        s->AktSpieler = 1;
-        s->Bargeld(1) = bargeld;
-        s->Schiffe(8).Planet = 57;
-        s->Schiffe(8).Laderaum = 100;
-        s->Schiffe(8).Ladung = ladung;
-        s->Dokument(57).Bestand = bestand;
-        s->Dokument(57).Preis = 10;
+        s->AktSpieler = 1, s->Bargeld(1) = bargeld;
+        s->Schiffe(8).Planet = 57, s->Schiffe(8).Laderaum = 100, s->Schiffe(8).Ladung = ladung;
+        s->Dokument(57).Bestand = bestand, s->Dokument(57).Preis = 10;
         return s;
     };
     EXPECT_EQ(Zahl("key M\nkey ENTER", 0, 9, 0, 8, frachter(4599, 0, 100000)), 45) << "the stock, in whole tonnes";

@@ -18,13 +18,9 @@ struct Lade : TestSpiel {
     }
     Schiff& schiff(int nr, const char* typ, int planet = SOL_III, int laderaum = 10, int besitzer = 1) {
         Schiff& sch = s->Schiffe(nr);
-        sch.Typ = typ;
-        sch.Name = "x";
-        sch.Planet = static_cast<Integer>(planet);
-        sch.Laderaum = static_cast<Integer>(laderaum);
-        sch.Besitzer = static_cast<Integer>(besitzer);
-        sch.Tankgroesse = 30;
-        sch.Treibstoff = 10;
+        sch.Typ = typ, sch.Name = "x", sch.Planet = static_cast<Integer>(planet);
+        sch.Laderaum = static_cast<Integer>(laderaum), sch.Besitzer = static_cast<Integer>(besitzer);
+        sch.Tankgroesse = 30, sch.Treibstoff = 10;
         return sch;
     }
     Schiff& operator[](int nr) { return s->Schiffe(nr); }
@@ -190,8 +186,7 @@ TEST(Betanken, AufSolIII) {
                      std::initializer_list<int> erfunden = {}, int mirellen = 0) {
         return Befehl(BETANKEN_SOL, 1, skript, [=](Lade& l) {
             Schiff& f = l.schiff(1, typ);
-            f.Treibstoff = tank;
-            f.Supersprit = -1;
+            f.Treibstoff = tank, f.Supersprit = -1;
             l.s->Bargeld(1) = geld;
             l.s->Lager(WARE_MIRELLEN, 1) = static_cast<Integer>(mirellen);
         }, erfunden);

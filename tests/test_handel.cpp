@@ -83,10 +83,7 @@ TEST(Handel, HinKaufenHeimVerkaufen) {
 TEST(Lagerbestand, ZeilenBilderUndKredit) {
     TestSpiel t;
     Spiel& s = *t.s;
-    s.AnzahlSpieler = 2;
-    s.AktSpieler = 2;
-    s.Bargeld(2) = 7300;
-    s.Kredit(2) = 500;
+    s.AnzahlSpieler = 2, s.AktSpieler = 2, s.Bargeld(2) = 7300, s.Kredit(2) = 500;
     const int menge[] = {1, 0, 3, 4, 8, 9, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 399, 400};
     for (int g = 1; g <= 20; ++g) s.Lager(g, 2) = static_cast<Integer>(menge[g - 1]);
     s.Lager(2, 1) = 50;  // the other player's storage is not shown

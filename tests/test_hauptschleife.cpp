@@ -72,8 +72,7 @@ TEST(Hauptschleife, EscUndUnfertigeMenuepunkteKehrenZurueck) {
 
 TEST(Hauptschleife, ZeitlimitBeendetDenZugErstNachDemMenue) {
     Runde r("wait 100500\nkey ESC", 2);
-    r.s->Zeitlimit = -1;
-    r.s->Rang(2) = 3;
+    r.s->Zeitlimit = -1, r.s->Rang(2) = 3;
     r.spielen();
     EXPECT_TRUE(r.gedruckt("Zeit ist abgelaufen!"));
     EXPECT_EQ(r.s->AktSpieler, 2);

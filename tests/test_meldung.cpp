@@ -85,16 +85,11 @@ TEST(Meldung, ZeilenVerweisenAufSchiffOderPlanet) {
     auto felder = [](int anzahl) {
         auto n = std::make_unique<News>(anzahl);
         Spiel& s = *n->s;
-        s.MeldungText(1) = "SST 12 (Anna) gelandet auf Wega III";
-        s.MeldungText(2) = "FSS 3 greift SST 17 an";
-        s.MeldungText(3) = " XS 8 (Anna) gelandet auf Deneb I";
-        s.MeldungPlanet(3) = 41;
-        s.MeldungText(4) = "Wega II produziert 12t Getreide";
-        s.MeldungPlanet(4) = 57;
-        s.MeldungText(5) = T("Hauptquartier zerstört von FSS 5");
-        s.MeldungPlanet(5) = 88;
-        s.MeldungText(6) = "TSR 9 (Anna) gelandet auf Sol III";
-        s.MeldungPlanet(6) = 3;
+        s.MeldungText(1) = "SST 12 (Anna) gelandet auf Wega III", s.MeldungText(2) = "FSS 3 greift SST 17 an";
+        s.MeldungText(3) = " XS 8 (Anna) gelandet auf Deneb I", s.MeldungPlanet(3) = 41;
+        s.MeldungText(4) = "Wega II produziert 12t Getreide", s.MeldungPlanet(4) = 57;
+        s.MeldungText(5) = T("Hauptquartier zerstört von FSS 5"), s.MeldungPlanet(5) = 88;
+        s.MeldungText(6) = "TSR 9 (Anna) gelandet auf Sol III", s.MeldungPlanet(6) = 3;
         n->zeigen();
         return n;
     };

@@ -131,13 +131,8 @@ TEST(SchiffAnzeigen, LadungReiseKopplungUndSchaden) {
     Spiel& s = *t.s;
     s.Dokument(57).Name = "Wega ";
     Schiff& f = s.Schiffe(1);
-    f.Typ = "SST ";
-    f.Name = "Frachter   ";
-    f.Planet = 57;
-    f.Laderaum = 41;
-    f.Fracht(3) = 2;
-    f.Fracht(24) = 1;
-    f.Ladung = 4;
+    f.Typ = "SST ", f.Name = "Frachter   ", f.Planet = 57, f.Laderaum = 41;
+    f.Fracht(3) = 2, f.Fracht(24) = 1, f.Ladung = 4;
     t.laufen([](Spiel& sp) { SCHIFF_ANZEIGEN(sp, 1); });
     std::string b = t.bildschirm();
     // Devices first, then the goods; a row holds 40 tonnes.
@@ -152,13 +147,8 @@ TEST(SchiffAnzeigen, LadungReiseKopplungUndSchaden) {
     EXPECT_EQ(t.textBei(30, 320), "Gekoppelt mit TSR 5");
 
     Schiff& scout = s.Schiffe(4);
-    scout.Typ = " XS ";
-    scout.Name = "Scout       ";
-    scout.Zustand = 1;
-    scout.Planet = 57;
-    scout.StartPlanet = 3;
-    scout.Dauer = 3;
-    scout.Schaden = 12;
+    scout.Typ = " XS ", scout.Name = "Scout       ", scout.Zustand = 1, scout.Planet = 57;
+    scout.StartPlanet = 3, scout.Dauer = 3, scout.Schaden = 12;
     t.laufen([](Spiel& sp) { SCHIFF_ANZEIGEN(sp, 4); });
     EXPECT_EQ(t.textBei(30, 110), "Scout           XS  4");
     EXPECT_EQ(t.textBei(30, 200), "Dauer:      2");
@@ -170,25 +160,19 @@ TEST(SchiffAnzeigen, TankbalkenDesGrossfrachtersUndRestjahre) {
     TestSpiel t;
     Spiel& s = *t.s;
     Schiff& x = s.Schiffe(6);
-    x.Typ = "XXL ";
-    x.Name = T("Großfrachter");
-    x.Tankgroesse = 30;
-    x.Planet = 3;
+    x.Typ = "XXL ", x.Name = T("Großfrachter"), x.Tankgroesse = 30, x.Planet = 3;
     t.p->spurAufzeichnen(true);
     x.Treibstoff = 10;  // a third: upper bar partly, lower bar white
     t.laufen([](Spiel& sp) { SCHIFF_ANZEIGEN(sp, 6); });
     EXPECT_NE(t.p->spur().find("box 200 228 333 238 16711935"), std::string::npos);
     EXPECT_NE(t.p->spur().find("box 334 228 400 238 16777215"), std::string::npos);
     EXPECT_NE(t.p->spur().find("box 200 242 400 252 16777215"), std::string::npos);
-    x.Treibstoff = 15;
-    x.Supersprit = -1;
+    x.Treibstoff = 15, x.Supersprit = -1;
     t.laufen([](Spiel& sp) { SCHIFF_ANZEIGEN(sp, 6); });
     EXPECT_NE(t.p->spur().find("box 200 228 400 238 65280\nbox 200 242 400 252 16777215"), std::string::npos);
 
     Schiff f;
-    f.Typ = "SST ";
-    f.Dauer = 2;
-    f.Supersprit = -1;
+    f.Typ = "SST ", f.Dauer = 2, f.Supersprit = -1;
     s.Jahr = 2002;
     EXPECT_EQ(RESTJAHRE(s, f), 1) << "Supersprit, even year, two units left";
     s.Jahr = 2003;

@@ -59,32 +59,16 @@ TEST(Treiber, ZustandsdateiHaeltAlleSchiffeUndPlaneten) {
 
 TEST(Spielstand, FesteBytesAnIhrenStellen) {
     Spiel s;
-    s.AnzahlSpieler = 3;
-    s.SpielerName(1) = "Anna";
-    s.SpielerName(7) = "Piraten";
-    s.Lager(3, 2) = 0x0102;
-    s.Lager(2, 3) = 0x0304;
-    s.Bargeld(2) = 0x11223344;
+    s.AnzahlSpieler = 3, s.SpielerName(1) = "Anna", s.SpielerName(7) = "Piraten", s.Lager(3, 2) = 0x0102;
+    s.Lager(2, 3) = 0x0304, s.Bargeld(2) = 0x11223344;
     Schiff& f = s.Schiffe(2);
-    f.Name = "Frachter   ";
-    f.Typ = "SST ";
-    f.Treibstoff = 2.5f;
-    f.Fracht(1) = 0x0A0B;
-    f.Fracht(2) = 0x0C0D;
-    f.Fracht(25) = 0x0E0F;
-    f.Partner = 0x0607;
-    f.Supersprit = -1;
+    f.Name = "Frachter   ", f.Typ = "SST ", f.Treibstoff = 2.5f, f.Fracht(1) = 0x0A0B;
+    f.Fracht(2) = 0x0C0D, f.Fracht(25) = 0x0E0F, f.Partner = 0x0607, f.Supersprit = -1;
     Planet& p = s.Dokument(2);
-    p.Name = "Wega ";
-    p.X = 0x1357;
-    p.Y = 0x2468;
-    p.Bestand = 0x01020304;
+    p.Name = "Wega ", p.X = 0x1357, p.Y = 0x2468, p.Bestand = 0x01020304;
     s.DockSchiffe(1, 2) = 17;  // player 2's docks: 17, 4, 9
-    s.DockSchiffe(2, 2) = 4;
-    s.DockSchiffe(3, 2) = 9;
-    s.Statistik(21, 1) = 0x0A0B0C0D;
-    s.Forschung(15, 2) = 0x0506;
-    s.ForschungsKosten(15) = 0x07080910;
+    s.DockSchiffe(2, 2) = 4, s.DockSchiffe(3, 2) = 9, s.Statistik(21, 1) = 0x0A0B0C0D;
+    s.Forschung(15, 2) = 0x0506, s.ForschungsKosten(15) = 0x07080910;
     const std::vector<uint8_t> b = SPIELSTAND_BYTES(s);
     auto i16 = [&](size_t o) { return static_cast<int16_t>(b.at(o) | b.at(o + 1) << 8); };
     auto i32 = [&](size_t o) { return static_cast<int32_t>(b.at(o) | b.at(o + 1) << 8 | b.at(o + 2) << 16 | b.at(o + 3) << 24); };

@@ -103,9 +103,7 @@ TEST(Zufall, SaatFolgeUndGrenzen) {
 
 TEST(Regeln, TexteMitIhrenBlanksUndZiehungen) {
     auto s = NeuesSpiel();
-    s->AnzahlSpieler = 1;
-    s->MausSchiff = 4;
-    s->Jahr = 2044;
+    s->AnzahlSpieler = 1, s->MausSchiff = 4, s->Jahr = 2044;
     // port fee, meteor storm, storage fire, strike, then inventions 1 to 11
     RndFolge(*s, {0.5f, 0.25f, 0.75f, GROESSTER_ZUG, 0.0f, 0.5f, 0.125f, 0.0f, 0.0f, 0.0f, 0.0f, 0.0f, 0.0f,
                   0.0f, GROESSTER_ZUG});
@@ -158,8 +156,7 @@ TEST(Entfernung, RundungOffsetsUndUntergrenze) {
     };
     for (const Fall& f : faelle) {
         Planet& p = sp.Dokument(41);
-        p.X = static_cast<Integer>(f.x);
-        p.Y = static_cast<Integer>(f.y);
+        p.X = static_cast<Integer>(f.x), p.Y = static_cast<Integer>(f.y);
         p.Abstand = static_cast<Integer>(f.abstand);
         EXPECT_EQ(ENTFERNUNG(sp, 3, 41), f.erwartet) << f.x << "," << f.y << " offset " << f.abstand;
         EXPECT_EQ(ENTFERNUNG(sp, 41, 3), f.erwartet);
@@ -285,8 +282,7 @@ TEST(SterneNeu, ZiehungenInIhrerReihenfolge) {
     auto galaxie = [&](int hqZug, float hqWert) {
         auto sp = NeuesSpiel();
         Spiel& s = *sp;
-        s.ProgrammVerzeichnis = ordner;
-        s.AnzahlPlaneten = 100;
+        s.ProgrammVerzeichnis = ordner, s.AnzahlPlaneten = 100;
         std::vector<float> z;
         z.push_back(0.5f);                                          // Zufallswert
         for (int i = 0; i < 10; ++i) z.push_back(i / 16.0f);        // angles
