@@ -24,6 +24,9 @@ struct Lade : TestSpiel {
         return sch;
     }
     Schiff& operator[](int nr) { return s->Schiffe(nr); }
+    std::string kasse() const {
+        return std::to_string(s->Bargeld(1)) + " SD, " + std::to_string(s->Lager(WARE_MIRELLEN, 1)) + " t Mirellen";
+    }
     bool gedruckt(int x, int y, const std::string& text) const {
         return p->spur().find("print " + std::to_string(x) + " " + std::to_string(y) + " 15 16777215 " + Utf8(text)) !=
                std::string::npos;
@@ -36,6 +39,11 @@ std::string Ladeliste(const Schiff& sch) {
     for (int i = 1; i <= 25; ++i)
         if (sch.Fracht(i)) r += std::to_string(i) + ":" + std::to_string(sch.Fracht(i)) + " ";
     return r + "L" + std::to_string(sch.Ladung);
+}
+// The tank and its kind; the state of a station.
+std::string Tank(const Schiff& sch) { return std::to_string(static_cast<int>(sch.Treibstoff)) + (sch.Supersprit ? " Super" : " normal"); }
+std::string Lage(const Schiff& sch) {
+    return "Zustand " + std::to_string(sch.Zustand) + " Partner " + std::to_string(sch.Partner) + " Planet " + std::to_string(sch.Planet);
 }
 
 // Builds the game, runs the order for ship nr with the keys, and hands the game back.
@@ -142,7 +150,7 @@ TEST(BeladenTanker, TankeinheitenReparatursetUndSupersprit) {
     EXPECT_TRUE(n->gedruckt(50, 660, "Wie viele Tankeinheiten? "));
     EXPECT_TRUE(n->gedruckt(50, 690, "1 TE kostet 30"));
     EXPECT_EQ(Ladeliste((*n)[1]), "21:60 L60");
-    EXPECT_EQ(n->s->Bargeld(1), 5000 - 1800);
+    EXPECT_EQ(n->kasse(), "3200 SD, 0 t Mirellen");
     EXPECT_EQ(n->s->Statistik(EST_TANKEINHEITEN, 2), 60);
 
     auto arm = tanker("key 5\nkey ENTER", 100);
@@ -158,12 +166,11 @@ TEST(BeladenTanker, TankeinheitenReparatursetUndSupersprit) {
     // Supersprit: 10 t Mirellen and 60 TE free propose 50; 51 would need 11 t; 6 units cost 2 t.
     auto s50 = tanker("key ENTER\nkey ENTER", 5000, {ERF_SUPERSPRIT}, 10);
     EXPECT_EQ(Ladeliste((*s50)[1]), "23:50 L50");
-    EXPECT_EQ(s50->s->Lager(WARE_MIRELLEN, 1), 0);
-    EXPECT_EQ(s50->s->Bargeld(1), 5000 - 1500);
+    EXPECT_EQ(s50->kasse(), "3500 SD, 0 t Mirellen");
     auto s51 = tanker("key ENTER\nkey 5\nkey 1\nkey ENTER", 5000, {ERF_SUPERSPRIT}, 10);
     EXPECT_TRUE(s51->gedruckt(50, 690, "Nicht genug Mirellen vorhanden!"));
     EXPECT_EQ(Ladeliste((*s51)[1]), "L0");
-    EXPECT_EQ(tanker("key ENTER\nkey 6\nkey ENTER", 5000, {ERF_SUPERSPRIT}, 2)->s->Lager(WARE_MIRELLEN, 1), 0);
+    EXPECT_EQ(tanker("key ENTER\nkey 6\nkey ENTER", 5000, {ERF_SUPERSPRIT}, 2)->kasse(), "4820 SD, 0 t Mirellen");
     EXPECT_TRUE(tanker("key ENTER", 5000, {ERF_SUPERSPRIT})->gedruckt(50, 690, "Keine Mirellen aus Lager!"));
     auto normal = tanker("key DOWN\nkey ENTER\nkey 7\nkey ENTER", 5000, {ERF_SUPERSPRIT});
     EXPECT_TRUE(normal->gedruckt(50, 690, "Wie viele Tankeinheiten? "));
@@ -193,8 +200,7 @@ TEST(Betanken, AufSolIII) {
     };
     auto a = tanken("key ENTER", TYP_FRACHTER, 29, 5000);
     EXPECT_TRUE(a->gedruckt(50, 660, "Kosten: 30       OK?"));
-    EXPECT_EQ((*a)[1].Treibstoff, 30.0f);
-    EXPECT_EQ((*a)[1].Supersprit, 0) << "the whole tank is normal fuel now";
+    EXPECT_EQ(Tank((*a)[1]), "30 normal") << "the whole tank is normal fuel now";
     EXPECT_EQ(a->s->Bargeld(1), 4970);
     EXPECT_EQ(a->s->Statistik(EST_TANKEINHEITEN, 2), 1);
     EXPECT_EQ((*tanken("key ENTER", TYP_GROSSFRACHTER, 20, 5000))[1].Treibstoff, 30.0f) << "held at the tank";
@@ -208,10 +214,8 @@ TEST(Betanken, AufSolIII) {
                     ->gedruckt(50, 690, "Keine Mirellen aus Lager!"));
     auto sup = tanken("key UP\nkey ENTER\nkey ENTER", TYP_FRACHTER, 3, 5000, {ERF_SUPERSPRIT}, 3);
     EXPECT_TRUE(sup->gedruckt(50, 690, "Kosten: 30 + 1t Mirellen   OK?"));
-    EXPECT_EQ((*sup)[1].Supersprit, -1);
-    EXPECT_EQ((*sup)[1].Treibstoff, 30.0f);
-    EXPECT_EQ(sup->s->Lager(WARE_MIRELLEN, 1), 2);
-    EXPECT_EQ(sup->s->Bargeld(1), 4970);
+    EXPECT_EQ(Tank((*sup)[1]), "30 Super");
+    EXPECT_EQ(sup->kasse(), "4970 SD, 2 t Mirellen");
 }
 
 TEST(Betanken, VonDerErstenStationMitTreibstoff) {
@@ -221,9 +225,9 @@ TEST(Betanken, VonDerErstenStationMitTreibstoff) {
         x.schiff(3, TYP_STATION, 23, 90, 2).Fracht(FRACHT_SPRIT) = 4;
     });
     EXPECT_TRUE(l->gedruckt(50, 660, "Tanken von TSR 3 (Tankeinh.: 4)"));
-    EXPECT_EQ((*l)[1].Treibstoff, 30.0f);
+    EXPECT_EQ(Tank((*l)[1]), "30 normal");
     EXPECT_EQ((*l)[3].Fracht(FRACHT_SPRIT), 3) << "one unit per filling, however much goes in";
-    EXPECT_EQ(l->s->Bargeld(1), 5000);
+    EXPECT_EQ(l->s->Bargeld(1), 5000) << "no money passes";
 
     // With Supersprit known: a freighter starts on the last kind there, a station on the first.
     auto mit = [](int nr) {
@@ -235,11 +239,11 @@ TEST(Betanken, VonDerErstenStationMitTreibstoff) {
     };
     auto f = mit(1);
     EXPECT_TRUE(f->gedruckt(50, 660, "Normal: 2    Super: 2"));
-    EXPECT_EQ((*f)[1].Supersprit, -1);
-    EXPECT_EQ((*f)[2].Fracht(FRACHT_SUPERSPRIT), 1);
+    EXPECT_EQ(Tank((*f)[1]), "30 Super");
+    EXPECT_EQ(Ladeliste((*f)[2]), "21:2 23:1 L0");
     auto st = mit(2);
-    EXPECT_EQ((*st)[2].Treibstoff, 30.0f) << "a station fills its own tank";
-    EXPECT_EQ((*st)[2].Fracht(FRACHT_SPRIT), 1);
+    EXPECT_EQ(Tank((*st)[2]), "30 normal") << "a station fills its own tank";
+    EXPECT_EQ(Ladeliste((*st)[2]), "21:1 23:2 L0");
 }
 
 TEST(Entladen, WasNichtPasstBleibtAnBord) {
@@ -283,20 +287,14 @@ TEST(Koppeln, AnkoppelnUndTrennen) {
     };
     auto a = koppeln("key UP\nkey ENTER");
     EXPECT_TRUE(a->gedruckt(50, 630, T("Bitte Frachter wählen!")));
-    EXPECT_EQ((*a)[5].Partner, 7) << "4 is shown first, Up goes to 7";
-    EXPECT_EQ((*a)[5].Zustand, ZUSTAND_GEKOPPELT);
-    EXPECT_EQ((*a)[7].Partner, 5);
-    EXPECT_EQ((*a)[7].Zustand, ZUSTAND_RUHT);
+    EXPECT_EQ(Lage((*a)[5]), "Zustand 10 Partner 7 Planet 23") << "4 is shown first, Up goes to 7";
+    EXPECT_EQ(Lage((*a)[7]), "Zustand 0 Partner 5 Planet 23");
     EXPECT_EQ((*koppeln("key UP\nkey UP\nkey ENTER"))[5].Partner, 4) << "round past the highest slot";
-    auto esc = koppeln("key ESC");
-    EXPECT_EQ((*esc)[5].Partner, 0);
-    EXPECT_EQ((*esc)[5].Zustand, ZUSTAND_RUHT);
+    EXPECT_EQ(Lage((*koppeln("key ESC"))[5]), "Zustand 0 Partner 0 Planet 23");
 
     // Uncoupled where the freighter stands.
     (*a)[7].Planet = 44;
     a->laufen([](Spiel& s) { TRENNEN(s, 5); });
-    EXPECT_EQ((*a)[5].Planet, 44);
-    EXPECT_EQ((*a)[5].Partner, 0);
-    EXPECT_EQ((*a)[5].Zustand, ZUSTAND_RUHT);
+    EXPECT_EQ(Lage((*a)[5]), "Zustand 0 Partner 0 Planet 44");
     EXPECT_EQ((*a)[7].Partner, 0);
 }
