@@ -1,4 +1,6 @@
-// Choosing a ship, the order menu and the travel orders.
+// Choosing a ship, the order menu, the travel orders and the star map.
+#include <sstream>
+
 #include "flow/hauptschleife.h"
 #include "hilfe.h"
 #include "orders/anweisen.h"
@@ -13,27 +15,20 @@ namespace {
 // A small galaxy by hand: systems 1..5 in a row to the right of Sol.
 struct Galaxie : TestSpiel {
     explicit Galaxie(const std::string& skript = "") : TestSpiel(skript) {
-        s->AnzahlPlaneten = 50;
-        s->HoechstesSchiff = 10;
+        s->AnzahlPlaneten = 50, s->HoechstesSchiff = 10;
         const char* namen[] = {"Atair ", "Beteigeuze ", "Capella ", "Deneb ", "Wega "};
         for (int sys = 1; sys <= 5; ++sys)
             for (int k = 1; k <= 10; ++k) {
                 Planet& p = s->Dokument(10 * sys + k);
-                p.Name = namen[sys - 1];
-                p.X = static_cast<Integer>(20 * sys);
-                p.Y = static_cast<Integer>(sys == 3 ? -30 : 0);
-                p.Ware = static_cast<Integer>(sys);
+                p.Name = namen[sys - 1], p.X = static_cast<Integer>(20 * sys);
+                p.Y = static_cast<Integer>(sys == 3 ? -30 : 0), p.Ware = static_cast<Integer>(sys);
             }
         s->Dokument(3).Name = "Sol ";
     }
     Schiff& schiff(int nr, const char* typ, int planet = 3, int besitzer = 1) {
         Schiff& sch = s->Schiffe(nr);
-        sch.Typ = typ;
-        sch.Name = "Schiff";
-        sch.Planet = static_cast<Integer>(planet);
-        sch.Besitzer = static_cast<Integer>(besitzer);
-        sch.Tankgroesse = 30;
-        sch.Treibstoff = 30;
+        sch.Typ = typ, sch.Name = "Schiff", sch.Planet = static_cast<Integer>(planet);
+        sch.Besitzer = static_cast<Integer>(besitzer), sch.Tankgroesse = 30, sch.Treibstoff = 30;
         sch.Laderaum = std::string(typ) == "SST " ? 10 : 0;
         return sch;
     }
@@ -46,6 +41,12 @@ struct Galaxie : TestSpiel {
 };
 
 using Menue = std::vector<std::string>;
+
+// What a trip keeps in the record.
+std::string Reise(const Schiff& f) {
+    return "Zustand " + std::to_string(f.Zustand) + " Planet " + std::to_string(f.Planet) + " Start " +
+           std::to_string(f.StartPlanet) + " Dauer " + std::to_string(f.Dauer);
+}
 
 }  // namespace
 
@@ -63,21 +64,16 @@ TEST(Anweisungen, FrachterNachOrtUndLage) {
     g.s->Schiffe(PIRATEN_HQ).Planet = 0;
     f.Partner = 5;
     EXPECT_EQ(g.menue(1), (Menue{"Start"})) << "a freighter with a station does not load";
-    f.Partner = 0;
-    f.Ladung = 10;
+    f.Partner = 0, f.Ladung = 10;
     EXPECT_EQ(g.menue(1), (Menue{"Start"})) << "a full hold";
     g.s->Dokument(23).Portal = -1;
     g.s->Schiffe(HAENDLER_ERSTES + 2).Planet = 23;
     EXPECT_EQ(g.menue(1), (Menue{"Start", "Teleportieren", "Handeln"}));
-    f.Zustand = 1;
-    f.StartPlanet = 3;
+    f.Zustand = 1, f.StartPlanet = 3;
     EXPECT_EQ(g.menue(1), (Menue{"Notruf"}));
     f.StartPlanet = -3;
     EXPECT_TRUE(g.menue(1).empty()) << "a teleport cannot be called back";
-    f.Zustand = 0;
-    f.Fracht(22) = 1;
-    f.Schaden = 10;
-    f.Fracht(24) = 2;
+    f.Zustand = 0, f.Fracht(22) = 1, f.Schaden = 10, f.Fracht(24) = 2;
     EXPECT_EQ(g.menue(1), (Menue{"Start", "Teleportieren", "Handeln", "Reparatur", "Gerät ausliefern"}));
 }
 
@@ -122,10 +118,7 @@ TEST(Reisen, StartMitBuchstabenUndPfeilenDannNotruf) {
     Galaxie g("key D\nkey UP\nkey UP\nkey ENTER");
     Schiff& f = g.schiff(1, "SST ");
     g.laufen([](Spiel& s) { ORDER_START(s, 1); });
-    EXPECT_EQ(f.Zustand, 1);
-    EXPECT_EQ(f.StartPlanet, 3);
-    EXPECT_EQ(f.Planet, 43);
-    EXPECT_EQ(f.Dauer, ENTFERNUNG(*g.s, 3, 43));
+    EXPECT_EQ(Reise(f), "Zustand 1 Planet 43 Start 3 Dauer " + std::to_string(ENTFERNUNG(*g.s, 3, 43)));
     EXPECT_EQ(g.textBei(50, 690), "Entfernung: " + Space(4 - static_cast<int>(Str(f.Dauer).size())) + std::to_string(f.Dauer));
 
     g.laufen([](Spiel& s) { ORDER_NOTRUF(s, 1); });
@@ -133,16 +126,10 @@ TEST(Reisen, StartMitBuchstabenUndPfeilenDannNotruf) {
     EXPECT_EQ(f.Planet, 3);
     EXPECT_EQ(f.Dauer, 0);
 
-    f.Zustand = 1;
-    f.StartPlanet = 3;
-    f.Planet = 43;
-    f.Dauer = 6;  // 4 of 10 units flown
-    g.s->Dokument(3).Abstand = 0;
+    f.Zustand = 1, f.StartPlanet = 3, f.Planet = 43, f.Dauer = 6;  // 4 of 10 units flown
     const int ganz = ENTFERNUNG(*g.s, 3, 43);
     g.laufen([](Spiel& s) { ORDER_NOTRUF(s, 1); });
-    EXPECT_EQ(f.Planet, 3);
-    EXPECT_EQ(f.StartPlanet, 43);
-    EXPECT_EQ(f.Dauer, ganz - 6);
+    EXPECT_EQ(Reise(f), "Zustand 1 Planet 3 Start 43 Dauer " + std::to_string(ganz - 6));
 }
 
 TEST(Reisen, ZielWaehlenTasten) {
@@ -181,10 +168,7 @@ TEST(Reisen, TeleportierenZwischenPortalen) {
     f.Partner = 5;
     g.schiff(5, "TSR ", 3).Zustand = 10;
     g.laufen([](Spiel& s) { ORDER_TELEPORTIEREN(s, 1); });
-    EXPECT_EQ(f.Planet, 44) << "Up keeps the cursor on the only other portal";
-    EXPECT_EQ(f.StartPlanet, -3);
-    EXPECT_EQ(f.Dauer, 1);
-    EXPECT_EQ(f.Zustand, 1);
+    EXPECT_EQ(Reise(f), "Zustand 1 Planet 44 Start -3 Dauer 1") << "Up keeps the cursor on the only other portal";
     EXPECT_EQ(g.s->Schiffe(5).Planet, 44) << "the station goes along";
     EXPECT_EQ(g.s->Schiffe(5).Zustand, 10);
 
@@ -201,8 +185,7 @@ TEST(Anweisen, SchiffWaehlenMitTastenUndNummer) {
         Galaxie g(skript + "\nkey ESC");
         for (int i : {2, 5, 9}) g.schiff(i, "SST ");
         g.schiff(4, "SST ", 3, 2);
-        g.s->HoechstesSchiff = 12;
-        g.s->LetztesSchiff = static_cast<Integer>(letztes);
+        g.s->HoechstesSchiff = 12, g.s->LetztesSchiff = static_cast<Integer>(letztes);
         g.laufen([](Spiel& s) { SCHIFFE_ANWEISEN(s); });
         return g.s->LetztesSchiff;
     };
@@ -227,18 +210,43 @@ TEST(Anweisen, SchiffWaehlenMitTastenUndNummer) {
     EXPECT_NE(werft.p->spur().find("Raumschiff ist in der Werft!"), std::string::npos);
 }
 
-TEST(Meldung, SchiffUndPlanetAusDerZeile) {
-    bool da = false;
-    EXPECT_EQ(SCHIFF_IN_MELDUNG("SST 12 landet auf Wega III", true, da), 12);
-    EXPECT_TRUE(da);
-    EXPECT_EQ(SCHIFF_IN_MELDUNG("FSS 3 greift SST 17 an", true, da), 17) << "by code order, not position";
-    EXPECT_EQ(SCHIFF_IN_MELDUNG(" XS 8 landet auf Deneb I", true, da), 8);
-    EXPECT_EQ(SCHIFF_IN_MELDUNG(" XS 8 landet auf Deneb I", false, da), 0);
-    EXPECT_FALSE(da) << "no scout links on a paged list";
-    EXPECT_EQ(SCHIFF_IN_MELDUNG(T("Hauptquartier zerstört von FSS 5"), true, da), 0);
-    EXPECT_TRUE(da);
-    EXPECT_EQ(SCHIFF_IN_MELDUNG("Wega II produziert 12t Getreide", true, da), 0);
-    EXPECT_FALSE(da);
+TEST(Sternkarte, FarbenLinienUndTeleport) {
+    // Stars 11..51 lie at x 775, 800, 850, 875 on the row of Sol (750, 490); Capella above.
+    Galaxie g;
+    g.s->AktSpieler = 2;
+    auto reise = [&](int nr, int besitzer, int von, int nach) {
+        Schiff& sch = g.schiff(nr, "SST ", nach, besitzer);
+        sch.Zustand = 1, sch.StartPlanet = static_cast<Integer>(von);
+    };
+    reise(1, 2, 11, 41);   // own: cyan line back to the start
+    reise(2, 2, -11, 21);  // own teleport: no line
+    reise(3, 1, 3, 51);    // another player's: blue
+    reise(4, 1, -21, 41);  // another player's teleport: no line
+    reise(5, 7, 21, 11);   // pirates: grey
+    g.schiff(6, "SST ", 3, 2);   // at Sol: no dot
+    g.schiff(7, "TSR ", 21, 2);  // at rest: a dot
+    g.p->spurAufzeichnen(true);
+    g.laufen([](Spiel& s) { STERNKARTE(s); });
+    std::string linien, punkte;
+    std::istringstream spur(g.p->spur());
+    for (std::string z; std::getline(spur, z);) {
+        if (z.rfind("line ", 0) == 0) linien += z + "\n";
+        if (z.rfind("circle ", 0) == 0 && z.find(" 65535 ") == std::string::npos) punkte += z + "\n";
+    }
+    EXPECT_EQ(linien,
+              "line 850 490 775 490 16776960 1\n"
+              "line 875 490 750 490 16711680 1\n"
+              "line 775 490 800 490 7895160 1\n");
+    EXPECT_EQ(punkte,
+              "circle 750 490 2 16777215 filled\n"
+              "circle 850 490 1 16776960 filled\n"
+              "circle 800 490 1 16776960 filled\n"
+              "circle 875 490 1 16711680 filled\n"
+              "circle 850 490 1 16711680 filled\n"
+              "circle 775 490 1 7895160 filled\n"
+              "circle 800 490 1 16776960 filled\n");
+    EXPECT_NE(g.p->spur().find("circle 775 490 1 65535 filled"), std::string::npos) << "a yellow star";
+    EXPECT_NE(g.p->spur().find("box 502 245 998 738 0"), std::string::npos) << "the news are covered";
 }
 
 TEST(Meldung, KlickAufEineZeileOeffnetDasSchiff) {
@@ -246,11 +254,8 @@ TEST(Meldung, KlickAufEineZeileOeffnetDasSchiff) {
     Galaxie g("click 600 260\nkey ESC\nkey ESC");
     g.schiff(2, "SST ");
     g.schiff(6, "SST ", 21).Treibstoff = 10;
-    g.s->MeldungAnzahl = 2;
-    g.s->MeldungText(1) = "SST 6 landet auf Atair I";
-    g.s->MeldungFarbe(1) = CYAN;
-    g.s->MeldungText(2) = "Atair II produziert";
-    g.s->MeldungPlanet(2) = 12;
+    g.s->MeldungAnzahl = 2, g.s->MeldungText(1) = "SST 6 landet auf Atair I", g.s->MeldungFarbe(1) = CYAN;
+    g.s->MeldungText(2) = "Atair II produziert", g.s->MeldungPlanet(2) = 12;
     g.p->spurAufzeichnen(true);
     g.laufen([](Spiel& s) {
         HAUPTBILDSCHIRM(s, true);

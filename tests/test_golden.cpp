@@ -87,13 +87,8 @@ TEST(Golden, SchiffstafelJedesTyps) {
         Spiel& s = *t.s;
         s.Dokument(3).Name = "Sol ";
         Schiff& sch = s.Schiffe(nr);
-        sch.Typ = fall.typ;
-        sch.Name = T(fall.name);
-        sch.Besitzer = 1;
-        sch.Planet = 3;
-        sch.Laderaum = static_cast<Integer>(fall.laderaum);
-        sch.Tankgroesse = 30;
-        sch.Treibstoff = 17;
+        sch.Typ = fall.typ, sch.Name = T(fall.name), sch.Besitzer = 1, sch.Planet = 3;
+        sch.Laderaum = static_cast<Integer>(fall.laderaum), sch.Tankgroesse = 30, sch.Treibstoff = 17;
         sch.Bewaffnung = std::string(fall.typ) == "FSS " ? 6 : 0;
         for (int g = 1; g <= fall.fracht; ++g) sch.Fracht(1 + g % 20) += 1;
         sch.Ladung = static_cast<Integer>(fall.fracht);

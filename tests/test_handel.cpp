@@ -1,9 +1,10 @@
-// A whole trade through the headless driver, and the travel orders seen in
-// the saved state: fly out, land first, buy with M, fly home, unload, sell.
+// A whole trade through the headless driver, seen in the saved state: fly
+// out, land first, buy with M, fly home, unload, sell; and the storage view.
 #include "flow/spielstand.h"
 #include "hilfe.h"
 #include "state/sterne.h"
 #include "state/text.h"
+#include "views/lagerbestand.h"
 
 namespace {
 
@@ -79,11 +80,38 @@ TEST(Handel, HinKaufenHeimVerkaufen) {
     EXPECT_NE(l5.screen.find("SST 1 (Anna) gelandet auf Sol III"), std::string::npos);
 }
 
-TEST(Handel, NotrufImSelbenZug) {
-    const std::string start = NeuesSpielSkript(1, 5000, {"Anna"});
-    const Spiel s = ZustandAus(Treiber(start + "key R\nkey ENTER\nkey ENTER\nkey ENTER\nkey TAB\nkey TAB\nkey ENTER\n"
-                                            "key R\nkey ENTER\nkey ENTER\nkey ENTER\n"));
-    EXPECT_EQ(s.Schiffe(1).Zustand, 0) << "called back before it moved: at rest at home";
-    EXPECT_EQ(s.Schiffe(1).Planet, SOL_III);
-    EXPECT_EQ(s.Schiffe(1).Dauer, 0);
+TEST(Lagerbestand, ZeilenBilderUndKredit) {
+    TestSpiel t;
+    Spiel& s = *t.s;
+    s.AnzahlSpieler = 2, s.AktSpieler = 2, s.Bargeld(2) = 7300, s.Kredit(2) = 500;
+    const int menge[] = {1, 0, 3, 4, 8, 9, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 0, 399, 400};
+    for (int g = 1; g <= 20; ++g) s.Lager(g, 2) = static_cast<Integer>(menge[g - 1]);
+    s.Lager(2, 1) = 50;  // the other player's storage is not shown
+    t.p->spurAufzeichnen(true);
+    t.laufen([](Spiel& sp) { LAGERBESTAND(sp); });
+    EXPECT_EQ(t.textBei(50, 105), "LAGERBESTAND");
+    EXPECT_EQ(t.textBei(30, 130), Utf8(T("Vermögen:  7300"))) << "the cash alone, the debt not taken off";
+    EXPECT_EQ(t.textBei(300, 130), "Kredit:  500");
+    EXPECT_NE(t.bildschirm().find("text\t50\t183\t12\t65280\tGetreide      :    1\n"), std::string::npos);
+    EXPECT_EQ(t.textBei(50, 201), "") << "a good without stock leaves its row empty";
+    EXPECT_EQ(t.textBei(50, 525), "Golgo-Pelze   :  400");
+    EXPECT_EQ(t.textBei(50, 190), "");
+    auto bilder = [&](int g) {
+        int n = 0;
+        const std::string spur = t.p->spur() + "\n";
+        const std::string kopf = " " + std::to_string(165 + 18 * g) + " " + Utf8(s.WarenName(g)) + "\n";
+        for (int k = 1; k <= 25; ++k) n += spur.find("picture " + std::to_string(260 + 10 * k) + kopf) != std::string::npos;
+        return n;
+    };
+    const int erwartet[] = {1, 0, 1, 2, 2, 3};
+    for (int g = 1; g <= 6; ++g) EXPECT_EQ(bilder(g), erwartet[g - 1]) << "good " << g;
+    EXPECT_EQ(bilder(19), 19);
+    EXPECT_EQ(bilder(20), 20) << "never more than twenty";
+
+    s.Kredit(2) = 0;
+    for (int g = 1; g <= 20; ++g) s.Lager(g, 2) = 0;
+    t.laufen([](Spiel& sp) { LAGERBESTAND(sp); });
+    EXPECT_EQ(t.textBei(50, 190), "- Lager ist leer! -");
+    EXPECT_EQ(t.textBei(300, 130), "");
+    EXPECT_EQ(t.textBei(50, 183), "");
 }

