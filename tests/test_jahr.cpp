@@ -8,7 +8,6 @@
 #include "state/text.h"
 #include "state/zufall.h"
 #include "year/jahr.h"
-#include "../bench/grosse_welt.h"
 
 namespace {
 
