@@ -22,7 +22,7 @@ std::string ProgrammOrdner() {
         const std::string b(basis);
         SDL_free(basis);
         std::error_code fc;
-        for (const std::string kandidat : {b + "data", b + "../share/games/quorvant"}) {
+        for (const std::string& kandidat : {b + "data", b + "../share/games/quorvant"}) {
             if (std::filesystem::is_regular_file(kandidat + "/Planetenliste.bin", fc)) {
                 ordner = std::filesystem::weakly_canonical(kandidat, fc).string();
                 if (fc) ordner = kandidat;
