@@ -98,9 +98,9 @@ void SdlPlattform::geaendert(const Hochbild::Rechteck& r) {
 }
 
 void SdlPlattform::zeigen(bool sofort) {
-    if (!flaeche_) return;
+    if (!flaeche_ || (!geaendert_ && !zeigenErzwingen_)) return;
     const long long jetzt = uhrMs();
-    if (!zeigenErzwingen_ && (!geaendert_ || (!sofort && jetzt - letztesZeigen_ < BILD_ABSTAND_MS))) return;
+    if (!zeigenErzwingen_ && !sofort && jetzt - letztesZeigen_ < BILD_ABSTAND_MS) return;
     Hochbild::Rechteck r = schmutz_;
     if (zeigenErzwingen_) {
         SDL_FillRect(flaeche_, nullptr, SDL_MapRGB(flaeche_->format, 0, 0, 0));
@@ -249,6 +249,7 @@ bool SdlPlattform::warten(int ms) {
     pollfd p{xVerbindung_, POLLIN, 0};
     const int r = poll(&p, 1, std::max(ms, 0));
     if (r > 0 || (r < 0 && errno == EINTR)) return sammeln();
+    xStill_ = true;  // the connection was just quiet: the pump that follows need not ask again
     return false;
 }
 
@@ -256,9 +257,12 @@ void SdlPlattform::pumpen() {
     if (xVerbindung_ < 0) {
         sammeln();
     } else {
-        // A waiting prompt pumps two hundred times a second: ask X only when it has something.
+        // A waiting prompt pumps two hundred times a second, right after its
+        // sleep found the connection quiet: ask X only when it may have something.
         pollfd p{xVerbindung_, POLLIN, 0};
-        if (xUngelesen_ || uhrMs() - letztesSammeln_ >= SAMMELN_SPAETESTENS_MS || poll(&p, 1, 0) > 0) sammeln();
+        if (xUngelesen_ || uhrMs() - letztesSammeln_ >= SAMMELN_SPAETESTENS_MS || (!xStill_ && poll(&p, 1, 0) > 0))
+            sammeln();
+        xStill_ = false;
     }
     zeigen(false);
 }

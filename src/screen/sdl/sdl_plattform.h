@@ -80,6 +80,7 @@ private:
     long long letztesZeigen_ = -1000;
     int xVerbindung_ = -1;             // X11: the connection to sleep on, else -1
     bool xUngelesen_ = true;           // SDL may hold events read from it already
+    bool xStill_ = false;              // the last sleep on it ended with nothing to read
     long long letztesSammeln_ = 0;
     bool sdlBoxGeht_ = true;
     std::deque<Ereignis> warteschlange_;
