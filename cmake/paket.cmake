@@ -28,6 +28,9 @@ add_custom_command(OUTPUT ${CMAKE_CURRENT_BINARY_DIR}/quorvant.6.gz
 add_custom_target(quorvant_handbuch ALL DEPENDS ${CMAKE_CURRENT_BINARY_DIR}/quorvant.6.gz)
 install(FILES ${CMAKE_CURRENT_BINARY_DIR}/quorvant.6.gz DESTINATION share/man/man6)
 
+# The package needs the game, not the tests and benchmarks: "package" builds
+# only what it installs (paket.sh builds those targets first).
+set(CMAKE_SKIP_INSTALL_ALL_DEPENDENCY TRUE)
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME quorvant)
 set(CPACK_PACKAGE_VENDOR "Quorvant")

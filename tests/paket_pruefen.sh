@@ -11,7 +11,7 @@ pruefe() {  # pruefe BESCHREIBUNG BEFEHL...
   if "$@"; then echo "ok:     $was"; else echo "FEHLER: $was"; fehler=1; fi
 }
 
-cmake --build "$BAU" --target package >"$BAU/paket_bau.log" 2>&1 || { cat "$BAU/paket_bau.log"; exit 1; }
+{ cmake --build "$BAU" --target quorvant quorvant_handbuch && cmake --build "$BAU" --target package; } >"$BAU/paket_bau.log" 2>&1 || { cat "$BAU/paket_bau.log"; exit 1; }
 version=$(sed -n 's/^set(CPACK_PACKAGE_VERSION "\(.*\)")$/\1/p' "$BAU/CPackConfig.cmake")
 deb="$BAU/quorvant_${version}_amd64.deb"
 pruefe "Paket $deb gebaut" test -s "$deb"

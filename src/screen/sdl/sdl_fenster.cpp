@@ -56,9 +56,10 @@ bool SdlPlattform::starten(std::string& fehler) {
         fehler = schriftFehler;
         return false;
     }
-    // The window's pixels stay in our memory and only changed parts go to the
-    // display; a GPU texture would send and draw the whole window each time.
-    SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
+    // On X11 the window's pixels stay in shared memory and only changed parts
+    // go to the display; a GPU texture would send and draw the whole window
+    // each time. Elsewhere (Wayland) SDL's texture is the only way.
+    if (treiber == "x11") SDL_SetHint(SDL_HINT_FRAMEBUFFER_ACCELERATION, "0");
     fenster_ = SDL_CreateWindow(Utf8(titel_).c_str(), SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
                                 Leinwand::BREITE, Leinwand::HOEHE, SDL_WINDOW_RESIZABLE);
     if (fenster_) flaecheHolen();
@@ -98,6 +99,10 @@ void SdlPlattform::geaendert(const Hochbild::Rechteck& r) {
 }
 
 void SdlPlattform::zeigen(bool sofort) {
+    if (neueGroesse_ && fenster_) {
+        neueGroesse_ = false;
+        flaecheHolen();
+    }
     if (!flaeche_ || (!geaendert_ && !zeigenErzwingen_)) return;
     const long long jetzt = uhrMs();
     if (!zeigenErzwingen_ && !sofort && jetzt - letztesZeigen_ < BILD_ABSTAND_MS) return;
@@ -147,7 +152,7 @@ void SdlPlattform::fensterEreignis(const SDL_Event& ev) {
     switch (ev.window.event) {
         case SDL_WINDOWEVENT_SIZE_CHANGED:
         case SDL_WINDOWEVENT_RESIZED:
-            flaecheHolen();
+            neueGroesse_ = true;  // dragging sends many sizes: the picture is made for the last one
             break;
         case SDL_WINDOWEVENT_EXPOSED:
         case SDL_WINDOWEVENT_RESTORED:
@@ -169,7 +174,7 @@ void SdlPlattform::vollbildUmschalten() {
     if (!fenster_) return;
     const bool voll = (SDL_GetWindowFlags(fenster_) & SDL_WINDOW_FULLSCREEN) != 0;
     SDL_SetWindowFullscreen(fenster_, voll ? 0 : SDL_WINDOW_FULLSCREEN_DESKTOP);
-    flaecheHolen();
+    neueGroesse_ = true;
 }
 
 // --- drawing: the canvas, and the same step for the sharp picture ------------------

@@ -182,6 +182,10 @@ void SdlPlattform::verarbeiten(const SDL_Event& ev) {
             else if (ev.button.button == SDL_BUTTON_RIGHT) knopf = 2;
             else if (ev.button.button == SDL_BUTTON_MIDDLE) knopf = 4;
             int x = 0, y = 0;
+            if (neueGroesse_) {  // the click belongs to the window's new size
+                neueGroesse_ = false;
+                flaecheHolen();
+            }
             // Clicks on the black bars beside the picture miss the game.
             if (knopf && klickAufLeinwand(ev.button.x, ev.button.y, x, y))
                 warteschlange_.push_back({EreignisArt::MouseUp, 0, knopf, x, y});

@@ -77,6 +77,7 @@ private:
     bool videoAn_ = false;
     bool geaendert_ = true;
     bool zeigenErzwingen_ = false;
+    bool neueGroesse_ = false;         // the window changed size since the last present
     long long letztesZeigen_ = -1000;
     int xVerbindung_ = -1;             // X11: the connection to sleep on, else -1
     bool xUngelesen_ = true;           // SDL may hold events read from it already
