@@ -19,14 +19,16 @@ export XDG_DATA_HOME="$(mktemp -d)"
 trap 'rm -rf "$XDG_DATA_HOME"' EXIT
 xvfb-run -a -s "-screen 0 ${GROESSE}x24" bash -c '
   "'"$PROGRAMM"'" 2>/dev/null & pid=$!
-  hz=$(getconf CLK_TCK)
+  # Run time in ns of all threads, as the scheduler counts it: exact, unlike
+  # the tick-sampled times of /proc/PID/stat that a 5 ms poll aliases with.
+  laufzeit() { cat /proc/$pid/task/*/schedstat 2>/dev/null | awk "{s+=\$1} END{printf \"%.0f\", s}"; }
   messen() {  # messen NAME: CPU share of the game over the next seconds
-    local t0 t1
-    t0=$(awk "{print \$14+\$15}" /proc/$pid/stat)
+    local t0 t1 a b
+    t0=$(laufzeit); a=$(date +%s%N)
     sleep '"$SEKUNDEN"'
-    t1=$(awk "{print \$14+\$15}" /proc/$pid/stat)
-    awk -v n="$1" -v a="$t0" -v b="$t1" -v hz="$hz" -v s='"$SEKUNDEN"' \
-        "BEGIN{printf \"%-9s %5.2f %% eines Kerns\n\", n, 100*(b-a)/hz/s}"
+    t1=$(laufzeit); b=$(date +%s%N)
+    awk -v n="$1" -v t0="$t0" -v t1="$t1" -v a="$a" -v b="$b" \
+        "BEGIN{printf \"%-9s %5.2f %% eines Kerns\n\", n, 100*(t1-t0)/(b-a)}"
   }
   fenster=$(xdotool search --sync --pid $pid | head -1)
   if [ "'"$GROESSE"'" != 1024x768 ]; then
