@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <ctime>
 #include <filesystem>
+#include <unistd.h>
 #include <vector>
 
 #include "state/text.h"
@@ -140,6 +141,7 @@ SdlPlattform::~SdlPlattform() {
         Mix_CloseAudio();
         Mix_Quit();
     }
+    if (xVerbindung_ >= 0) close(xVerbindung_);
     if (fenster_) SDL_DestroyWindow(fenster_);
     SDL_Quit();
 }

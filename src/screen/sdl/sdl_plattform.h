@@ -79,7 +79,7 @@ private:
     bool zeigenErzwingen_ = false;
     bool neueGroesse_ = false;         // the window changed size since the last present
     long long letztesZeigen_ = -1000;
-    int xVerbindung_ = -1;             // X11: the connection to sleep on, else -1
+    int xVerbindung_ = -1;             // X11: an epoll set holding the connection to sleep on, else -1
     bool xUngelesen_ = true;           // SDL may hold events read from it already
     bool xStill_ = false;              // the last sleep on it ended with nothing to read
     long long letztesSammeln_ = 0;
