@@ -13,14 +13,22 @@
 
 namespace {
 
-// The data folder beside the program, else the one of the source tree.
+// The game's data: beside the program during development (build/data), then
+// where the package puts it (/usr/games -> /usr/share/games/quorvant), else
+// the source tree the program was built from.
 std::string ProgrammOrdner() {
     std::string ordner = QUORVANT_DATEN_STANDARD;
     if (char* basis = SDL_GetBasePath()) {
-        const std::string nebenan = std::string(basis) + "data";
+        const std::string b(basis);
         SDL_free(basis);
         std::error_code fc;
-        if (std::filesystem::is_directory(nebenan, fc)) ordner = nebenan;
+        for (const std::string& kandidat : {b + "data", b + "../share/games/quorvant"}) {
+            if (std::filesystem::is_regular_file(kandidat + "/Planetenliste.bin", fc)) {
+                ordner = std::filesystem::weakly_canonical(kandidat, fc).string();
+                if (fc) ordner = kandidat;
+                break;
+            }
+        }
     }
     return ordner;
 }

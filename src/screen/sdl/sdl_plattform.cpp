@@ -7,14 +7,13 @@
 #include <cstdio>
 #include <ctime>
 #include <filesystem>
+#include <unistd.h>
 #include <vector>
 
 #include "state/text.h"
 
 namespace {
 
-constexpr int MIN_B = 512, MIN_H = 384;
-constexpr long long BILD_ABSTAND_MS = 16;  // at most about 60 pictures a second
 constexpr const char* KLANGSCHRIFT = "/usr/share/sounds/sf2/TimGM6mb.sf2";
 
 // The Windows key code of a key, 0 for keys the game does not know.
@@ -142,119 +141,9 @@ SdlPlattform::~SdlPlattform() {
         Mix_CloseAudio();
         Mix_Quit();
     }
-    if (textur_) SDL_DestroyTexture(textur_);
-    if (renderer_) SDL_DestroyRenderer(renderer_);
+    if (xVerbindung_ >= 0) close(xVerbindung_);
     if (fenster_) SDL_DestroyWindow(fenster_);
     SDL_Quit();
-}
-
-bool SdlPlattform::starten(std::string& fehler) {
-    if (fenster_) return true;
-    if (SDL_InitSubSystem(SDL_INIT_VIDEO) != 0) {
-        fehler = std::string("Das Spielfenster kann nicht geöffnet werden: keine Anzeige gefunden (") +
-                 SDL_GetError() + "). Quorvant braucht eine grafische Oberfläche (X11 oder Wayland).";
-        return false;
-    }
-    videoAn_ = true;
-    // Without a display SDL falls back to drawing into nothing; only when asked for.
-    const std::string treiber = SDL_GetCurrentVideoDriver() ? SDL_GetCurrentVideoDriver() : "";
-    const char* gewuenscht = SDL_getenv("SDL_VIDEODRIVER");
-    if ((treiber == "offscreen" || treiber == "dummy") && !(gewuenscht && treiber == gewuenscht)) {
-        fehler = "Das Spielfenster kann nicht geöffnet werden: keine Anzeige gefunden (DISPLAY bzw. "
-                 "WAYLAND_DISPLAY ist nicht gesetzt). Quorvant braucht eine grafische Oberfläche "
-                 "(X11 oder Wayland).";
-        return false;
-    }
-    std::string schriftFehler;
-    if (!leinwand_.schriftLaden(schriftFehler)) {
-        fehler = schriftFehler;
-        return false;
-    }
-    SDL_SetHint(SDL_HINT_RENDER_SCALE_QUALITY, "linear");
-    fenster_ = SDL_CreateWindow(Utf8(titel_).c_str(), SDL_WINDOWPOS_CENTERED, SDL_WINDOWPOS_CENTERED,
-                                Leinwand::BREITE, Leinwand::HOEHE, SDL_WINDOW_RESIZABLE);
-    if (fenster_) renderer_ = SDL_CreateRenderer(fenster_, -1, 0);
-    if (renderer_) {
-        SDL_RenderSetLogicalSize(renderer_, Leinwand::BREITE, Leinwand::HOEHE);
-        textur_ = SDL_CreateTexture(renderer_, SDL_PIXELFORMAT_ARGB8888, SDL_TEXTUREACCESS_STREAMING,
-                                    Leinwand::BREITE, Leinwand::HOEHE);
-    }
-    if (!textur_) {
-        fehler = std::string("Das Spielfenster kann nicht geöffnet werden (") + SDL_GetError() + ").";
-        return false;
-    }
-    SDL_SetWindowMinimumSize(fenster_, MIN_B, MIN_H);
-    SDL_StartTextInput();
-    geaendert_ = true;
-    zeigen(true);
-    return true;
-}
-
-// --- the canvas --------------------------------------------------------------------
-
-void SdlPlattform::zeigen(bool sofort) {
-    if (!textur_) return;
-    const long long jetzt = uhrMs();
-    if (!sofort && !zeigenErzwingen_ && (!geaendert_ || jetzt - letztesZeigen_ < BILD_ABSTAND_MS)) return;
-    SDL_UpdateTexture(textur_, nullptr, leinwand_.pixel(), Leinwand::BREITE * 4);
-    SDL_SetRenderDrawColor(renderer_, 0, 0, 0, 255);
-    SDL_RenderClear(renderer_);
-    SDL_RenderCopy(renderer_, textur_, nullptr, nullptr);
-    SDL_RenderPresent(renderer_);
-    geaendert_ = false;
-    zeigenErzwingen_ = false;
-    letztesZeigen_ = jetzt;
-}
-
-void SdlPlattform::leeren() {
-    leinwand_.leeren();
-    geaendert_ = true;
-}
-
-void SdlPlattform::titelSetzen(const std::string& t) {
-    titel_ = t;
-    if (fenster_) SDL_SetWindowTitle(fenster_, Utf8(t).c_str());
-}
-
-void SdlPlattform::text(const std::string& t, int groesse, int x, int y, Farbe f) {
-    leinwand_.text(t, groesse, x, y, f);
-    geaendert_ = true;
-}
-
-void SdlPlattform::textMessen(const std::string& t, int groesse, int& breite, int& hoehe) {
-    leinwand_.textMessen(t, groesse, breite, hoehe);
-}
-
-void SdlPlattform::linie(int x1, int y1, int x2, int y2, Farbe f, int breite) {
-    leinwand_.linie(x1, y1, x2, y2, f, breite);
-    geaendert_ = true;
-}
-
-void SdlPlattform::rahmen(int x1, int y1, int x2, int y2, Farbe f, int breite) {
-    leinwand_.rahmen(x1, y1, x2, y2, f, breite);
-    geaendert_ = true;
-}
-
-void SdlPlattform::box(int x1, int y1, int x2, int y2, Farbe f) {
-    leinwand_.box(x1, y1, x2, y2, f);
-    geaendert_ = true;
-}
-
-void SdlPlattform::kreis(int cx, int cy, int r, Farbe f, bool gefuellt, int breite) {
-    leinwand_.kreis(cx, cy, r, f, gefuellt, breite);
-    geaendert_ = true;
-}
-
-void SdlPlattform::bild(const std::string& schluessel, int x, int y) {
-    leinwand_.bild(schluessel, x, y);
-    geaendert_ = true;
-}
-
-void SdlPlattform::vollbildUmschalten() {
-    if (!fenster_) return;
-    const bool voll = (SDL_GetWindowFlags(fenster_) & SDL_WINDOW_FULLSCREEN) != 0;
-    SDL_SetWindowFullscreen(fenster_, voll ? 0 : SDL_WINDOW_FULLSCREEN_DESKTOP);
-    zeigenErzwingen_ = true;
 }
 
 // --- events ----------------------------------------------------------------------
@@ -265,9 +154,7 @@ void SdlPlattform::verarbeiten(const SDL_Event& ev) {
             warteschlange_.push_back({EreignisArt::Schliessen});
             break;
         case SDL_WINDOWEVENT:
-            if (ev.window.event == SDL_WINDOWEVENT_EXPOSED || ev.window.event == SDL_WINDOWEVENT_SIZE_CHANGED ||
-                ev.window.event == SDL_WINDOWEVENT_RESIZED || ev.window.event == SDL_WINDOWEVENT_RESTORED)
-                zeigenErzwingen_ = true;
+            fensterEreignis(ev);
             break;
         case SDL_KEYDOWN: {
             const SDL_Keycode k = ev.key.keysym.sym;
@@ -296,53 +183,18 @@ void SdlPlattform::verarbeiten(const SDL_Event& ev) {
             if (ev.button.button == SDL_BUTTON_LEFT) knopf = 1;
             else if (ev.button.button == SDL_BUTTON_RIGHT) knopf = 2;
             else if (ev.button.button == SDL_BUTTON_MIDDLE) knopf = 4;
-            const int x = ev.button.x, y = ev.button.y;
+            int x = 0, y = 0;
+            if (neueGroesse_) {  // the click belongs to the window's new size
+                neueGroesse_ = false;
+                flaecheHolen();
+            }
             // Clicks on the black bars beside the picture miss the game.
-            if (knopf && x >= 0 && y >= 0 && x < Leinwand::BREITE && y < Leinwand::HOEHE)
+            if (knopf && klickAufLeinwand(ev.button.x, ev.button.y, x, y))
                 warteschlange_.push_back({EreignisArt::MouseUp, 0, knopf, x, y});
             break;
         }
         default:
             break;
-    }
-}
-
-void SdlPlattform::pumpen() {
-    // A waiting prompt sleeps 5 ms and pumps, two hundred times a second: the
-    // sleep has just emptied the queue, so asking X again would only cost time.
-    if (geradeGepumpt_) {
-        geradeGepumpt_ = false;
-    } else {
-        SDL_Event ev;
-        while (SDL_PollEvent(&ev)) verarbeiten(ev);
-    }
-    zeigen(false);
-}
-
-void SdlPlattform::schlafen(int ms) {
-    const long long ende = uhrMs() + std::max(ms, 0);
-    const bool kurz = ms <= 50;  // a poll of a waiting routine: wakes on input
-    bool gewartet = false;
-    for (;;) {
-        zeigen(false);
-        const long long jetzt = uhrMs();
-        if (jetzt >= ende) {
-            geradeGepumpt_ = kurz && gewartet;
-            return;
-        }
-        long long warte = ende - jetzt;
-        if (geaendert_) warte = std::clamp(letztesZeigen_ + BILD_ABSTAND_MS - jetzt, 1LL, warte);
-        SDL_Event ev;
-        gewartet = true;
-        if (SDL_WaitEventTimeout(&ev, static_cast<int>(warte))) {
-            verarbeiten(ev);
-            while (SDL_PollEvent(&ev)) verarbeiten(ev);
-            if (kurz) {
-                zeigen(false);
-                geradeGepumpt_ = true;
-                return;
-            }
-        }
     }
 }
 
@@ -385,12 +237,14 @@ int SdlPlattform::sdlBox(const std::string& titel, const std::string& text, BoxA
         return -1;
     }
     zeigenErzwingen_ = true;
+    xUngelesen_ = true;
     return antwort == 1 ? 1 : 0;  // closed without a button: no
 }
 
 bool SdlPlattform::gemalteBox(const std::string& titel, const std::string& text, bool istFrage) {
     if (!fenster_) return !istFrage;  // no window: nobody could answer
     const std::vector<uint32_t> vorher = leinwand_.kopie();
+    const std::shared_ptr<Hochbild::Stand> hochVorher = hoch_.sichern();
     std::vector<std::string> zeilen = BoxZeilen(text, 70);
     size_t laengste = std::max<size_t>(titel.size(), 20);
     for (const auto& z : zeilen) laengste = std::max(laengste, z.size());
@@ -399,14 +253,13 @@ bool SdlPlattform::gemalteBox(const std::string& titel, const std::string& text,
     const int b = static_cast<int>(laengste) * zb + 40;
     const int h = (static_cast<int>(zeilen.size()) + 3) * zh + 40;
     const int x = (Leinwand::BREITE - b) / 2, y = (Leinwand::HOEHE - h) / 2;
-    leinwand_.box(x, y, x + b - 1, y + h - 1, 0x301818);
-    leinwand_.rahmen(x, y, x + b - 1, y + h - 1, 16777215, 2);
-    leinwand_.text(titel, 15, x + 20, y + 12, 65535);
+    box(x, y, x + b - 1, y + h - 1, 0x301818);
+    rahmen(x, y, x + b - 1, y + h - 1, 16777215, 2);
+    this->text(titel, 15, x + 20, y + 12, 65535);
     for (size_t i = 0; i < zeilen.size(); ++i)
-        leinwand_.text(zeilen[i], 15, x + 20, y + 12 + zh * static_cast<int>(i + 2), 16777215);
+        this->text(zeilen[i], 15, x + 20, y + 12 + zh * static_cast<int>(i + 2), 16777215);
     const std::string knopf = istFrage ? "Ja (J) / Nein (N)" : "OK (Enter)";
-    leinwand_.text(knopf, 15, x + (b - static_cast<int>(knopf.size()) * zb) / 2, y + h - 12 - zh, 16776960);
-    geaendert_ = true;
+    this->text(knopf, 15, x + (b - static_cast<int>(knopf.size()) * zb) / 2, y + h - 12 - zh, 16776960);
     zeigen(true);
 
     int antwort = -1;
@@ -432,8 +285,7 @@ bool SdlPlattform::gemalteBox(const std::string& titel, const std::string& text,
                 break;
             }
             case SDL_WINDOWEVENT:
-                if (ev.window.event == SDL_WINDOWEVENT_EXPOSED || ev.window.event == SDL_WINDOWEVENT_SIZE_CHANGED)
-                    zeigenErzwingen_ = true;
+                fensterEreignis(ev);
                 break;
             default:
                 break;  // typing and clicks belong to the box
@@ -443,8 +295,10 @@ bool SdlPlattform::gemalteBox(const std::string& titel, const std::string& text,
     // The characters of the answering key must not reach the game.
     SDL_PumpEvents();
     SDL_FlushEvents(SDL_TEXTEDITING, SDL_TEXTINPUT);
+    xUngelesen_ = true;
     leinwand_.zurueckholen(vorher);
-    geaendert_ = true;
+    hoch_.zurueckholen(hochVorher);
+    geaendert(Hochbild::Rechteck{0, 0, Leinwand::BREITE - 1, Leinwand::HOEHE - 1});
     zeigen(true);
     return antwort == 1;
 }

@@ -7,12 +7,15 @@
 
 #include "screen/leinwand.h"
 #include "screen/plattform.h"
+#include "screen/sdl/hochbild.h"
 
 struct SDL_Window;
-struct SDL_Renderer;
-struct SDL_Texture;
+struct SDL_Surface;
 union SDL_Event;
 struct _Mix_Music;
+
+// The file descriptor of the X11 connection behind a window, -1 elsewhere.
+int X11Verbindung(SDL_Window* fenster);
 
 class SdlPlattform : public Plattform {
 public:
@@ -24,6 +27,9 @@ public:
     // Opens the window and the font. On failure false with a German message.
     bool starten(std::string& fehler);
     Leinwand& leinwand() { return leinwand_; }
+    // What the window shows: the pixels of its surface (for tests and screenshots).
+    SDL_Surface* fensterFlaeche() { return flaeche_; }
+    const Hochbild& hochbild() const { return hoch_; }
 
     // Plattform
     void leeren() override;
@@ -47,22 +53,36 @@ public:
 
 private:
     void verarbeiten(const SDL_Event& ev);       // one SDL event into the queue
-    void zeigen(bool sofort);                    // the canvas to the window when due
+    void fensterEreignis(const SDL_Event& ev);   // size, exposure
+    void zeigen(bool sofort);                    // what changed to the window, when due
+    void flaecheHolen();                         // after a new size: surface, scale, the whole picture
+    void geaendert(const Hochbild::Rechteck& r);
     void vollbildUmschalten();
+    // Gathers what the window system sent; true when something came.
+    bool sammeln();
+    // Sleeps up to ms on the window system's connection; true when something came.
+    bool warten(int ms);
+    bool klickAufLeinwand(int fx, int fy, int& x, int& y) const;
     // 1 yes/OK, 0 no, -1 no SDL box possible.
     int sdlBox(const std::string& titel, const std::string& text, BoxArt art, bool frage);
     bool gemalteBox(const std::string& titel, const std::string& text, bool frage);
     bool tonBereit();
 
     Leinwand leinwand_;
+    Hochbild hoch_{leinwand_};
     SDL_Window* fenster_ = nullptr;
-    SDL_Renderer* renderer_ = nullptr;
-    SDL_Texture* textur_ = nullptr;
+    SDL_Surface* flaeche_ = nullptr;   // the window's own pixels, kept between presents
+    int zielX_ = 0, zielY_ = 0, zielB_ = Leinwand::BREITE, zielH_ = Leinwand::HOEHE;  // the picture in it
+    Hochbild::Rechteck schmutz_;       // canvas pixels drawn since the last present
     bool videoAn_ = false;
     bool geaendert_ = true;
     bool zeigenErzwingen_ = false;
-    bool geradeGepumpt_ = false;  // the sleep before this pump already read the queue
+    bool neueGroesse_ = false;         // the window changed size since the last present
     long long letztesZeigen_ = -1000;
+    int xVerbindung_ = -1;             // X11: an epoll set holding the connection to sleep on, else -1
+    bool xUngelesen_ = true;           // SDL may hold events read from it already
+    bool xStill_ = false;              // the last sleep on it ended with nothing to read
+    long long letztesSammeln_ = 0;
     bool sdlBoxGeht_ = true;
     std::deque<Ereignis> warteschlange_;
     std::string titel_ = "Quorvant";
