@@ -159,6 +159,7 @@ void Computerspieler::sichernPruefen() {
     if (!SPIELSTAND_LESEN(*frisch, datei, fehler)) abbrechen(jahr + "nicht lesbar: " + fehler);
     if (SPIELSTAND_BYTES(*frisch) != datei) abbrechen(jahr + "gelesen und wieder geschrieben nicht gleich");
     gesichert_.clear();
+    ++sicherungen_;
 }
 
 void Computerspieler::jahrBeendet() {
@@ -219,8 +220,8 @@ int COMPUTERSPIEL(const BotAuftrag& a, const std::string& daten, HeadlessPlattfo
         std::printf("Das Spiel endete nach %ld Jahren.\n", bot.gespielteJahre());
         status = 1;
     }
-    std::fprintf(stderr, "%ld Jahre in %.1f s (%.0f Jahre/s)\n", bot.gespielteJahre(), sek,
-                 sek > 0 ? static_cast<double>(bot.gespielteJahre()) / sek : 0.0);
+    std::fprintf(stderr, "%ld Jahre in %.1f s (%.0f Jahre/s), %ld Spielstände gesichert, gelesen und verglichen\n",
+                 bot.gespielteJahre(), sek, sek > 0 ? static_cast<double>(bot.gespielteJahre()) / sek : 0.0, bot.sicherungen());
     if (status == 0) std::printf("%ld Jahre, %d Spieler: in Ordnung\n", a.jahre, a.spieler);
     return status;
 }

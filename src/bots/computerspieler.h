@@ -47,6 +47,7 @@ public:
     bool fehlgeschlagen() const { return fehler_; }
     long gespielteJahre() const { return jahreGespielt_; }
     const std::vector<long>& gebaut() const { return gebaut_; }
+    long sicherungen() const { return sicherungen_; }
 
 private:
     struct Schritt {
@@ -125,6 +126,7 @@ private:
     // the save through the menu
     bool sichernBestellt_ = false;
     std::vector<uint8_t> gesichert_;
+    long sicherungen_ = 0;  // saves read back and compared
 };
 
 // The driver's run: a new game of computer players for a.jahre years.

@@ -14,6 +14,9 @@ struct Befund {
         if (ok || !wo.empty()) return;
         wo = tabelle + "(" + std::to_string(satz) + ")" + (*feld ? "." : "") + feld + " = " + std::to_string(wert);
     }
+    void pruefen(bool ok, const std::string& name, long wert) {
+        if (!ok && wo.empty()) wo = name + " = " + std::to_string(wert);
+    }
 };
 
 bool Lebt(const Spiel& s, int n) { return n >= 1 && n < SCHIFF_GRENZE && !IstFrei(s.Schiffe(n)); }
@@ -76,9 +79,11 @@ void Spieler(const Spiel& s, Befund& b) {
                 luecke = true;
                 continue;
             }
-            b.pruefen(!luecke && d > vorher && k <= DockPlaetze(s, p), t, d, "Reihe", d);
-            b.pruefen(Lebt(s, d) && s.Schiffe(d).Besitzer == p && s.Schiffe(d).Zustand < 0, t, d, "Zustand",
-                      Lebt(s, d) ? s.Schiffe(d).Zustand : -99);
+            // Ascending, the empty places behind, within the player's docks.
+            b.pruefen(!luecke && d > vorher && k <= DockPlaetze(s, p), t, d);
+            // A ship of the player in the yard.
+            b.pruefen(Lebt(s, d) && s.Schiffe(d).Besitzer == p, t, d);
+            b.pruefen(s.Schiffe(d).Zustand < 0, "Schiffe", d, "Zustand", s.Schiffe(d).Zustand);
             vorher = d;
         }
         if (p > s.AnzahlSpieler) continue;

@@ -128,14 +128,14 @@ bool Computerspieler::verkaufen() {
 
 bool Computerspieler::kreditRegeln() {
     const int p = s_.AktSpieler;
-    if (s_.Bargeld(p) < 1500 && s_.Kredit(p) < 10000 && erledigt_.insert("kredit").second) {
+    if (s_.Bargeld(p) < 200 && s_.Kredit(p) <= 4000 && erledigt_.insert("kredit").second) {
         menue("K");
         taste("ENTER");
-        tippen(std::to_string(std::min(3000, 10000 - s_.Kredit(p))));
+        tippen(std::to_string(std::min(1000, 10000 - s_.Kredit(p))));
         taste("ENTER");
         return true;
     }
-    if (s_.Kredit(p) > 0 && s_.Bargeld(p) > s_.Kredit(p) + 20000 && erledigt_.insert("kredit").second) {
+    if (s_.Kredit(p) > 0 && s_.Bargeld(p) > s_.Kredit(p) + 3000 && erledigt_.insert("kredit").second) {
         menue("K");
         taste("DOWN");
         taste("ENTER");
@@ -150,9 +150,9 @@ bool Computerspieler::forschen() {
     const int p = s_.AktSpieler;
     bool offen = false;
     for (int k = 1; k <= ANZAHL_ERFINDUNGEN; ++k) offen = offen || s_.Forschung(k, p) == 0;
-    if (!offen || s_.Bargeld(p) < 8000 || s_.Kredit(p) > 0 || !erledigt_.insert("forschung").second) return false;
+    if (!offen || s_.Bargeld(p) < 3000 || s_.Kredit(p) > 0 || !erledigt_.insert("forschung").second) return false;
     menue("F");
-    tippen(std::to_string(s_.Bargeld(p) / 3));
+    tippen(std::to_string(s_.Bargeld(p) / 5));
     taste("ENTER");
     return true;
 }
@@ -174,9 +174,10 @@ bool Computerspieler::docks() {
         return true;
     }
     const int raum = ErstesAufSol(s_, p, [&](const Schiff& sch) { return sch.Laderaum < LaderaumGrenze(s_, sch, p); });
-    if (raum && geld > 1000 + RESERVE) {
+    // Holds grow with the house: a small one is filled by a tour through a system.
+    if (raum && s_.Schiffe(raum).Laderaum < 30 + 30 * s_.Rang(p) && geld > 1000 + RESERVE) {
         const Schiff& sch = s_.Schiffe(raum);
-        const long n = std::min<long>({LaderaumGrenze(s_, sch, p) - sch.Laderaum, 40, (geld - RESERVE) / 10});
+        const long n = std::min<long>({LaderaumGrenze(s_, sch, p) - sch.Laderaum, 20, (geld - RESERVE) / 10});
         menue("D");
         for (int i = 1; i < AUFTRAG_LADERAUM; ++i) taste("UP");
         taste("ENTER");
@@ -186,7 +187,7 @@ bool Computerspieler::docks() {
         return true;
     }
     const int waffen = ErstesAufSol(s_, p, [&](const Schiff& sch) { return sch.Bewaffnung < WaffenGrenze(s_, sch, p); });
-    if (waffen && (IstKreuzer(s_.Schiffe(waffen)) || wuerfel(8) == 0) && geld > 85 + 2 * RESERVE) {
+    if (waffen && (IstKreuzer(s_.Schiffe(waffen)) || wuerfel(40) == 0) && geld > 85 + 2 * RESERVE) {
         const Schiff& sch = s_.Schiffe(waffen);
         const long n = std::min<long>(WaffenGrenze(s_, sch, p) - sch.Bewaffnung, (geld - 2 * RESERVE) / 85);
         menue("D");
@@ -211,10 +212,10 @@ bool Computerspieler::docks() {
     for (int i = 1; i <= s_.HoechstesSchiff; ++i) piraten += IstPirat(s_.Schiffe(i)) && !IstFrei(s_.Schiffe(i)) ? 1 : 0;
     const int rang = s_.Rang(p);
     int typ = 0;
-    if (anzahl(p, TYP_FRACHTER) < std::min(2 + 2 * rang, 14)) typ = NR_FRACHTER;
+    if (anzahl(p, TYP_FRACHTER) < std::min(1 + 2 * rang, 14)) typ = NR_FRACHTER;
     else if (anzahl(p, TYP_SCOUT) < 1) typ = NR_SCOUT;
-    else if (anzahl(p, TYP_KREUZER) < std::min(1 + rang / 2 + piraten / 15, 6)) typ = NR_KREUZER;
-    else if (anzahl(p, TYP_STATION) < 1 && geld > 8000) typ = NR_STATION;
+    else if (anzahl(p, TYP_KREUZER) < std::min(1 + rang / 2 + piraten / 15, 6) && geld > 2000) typ = NR_KREUZER;
+    else if (anzahl(p, TYP_STATION) < 1 && geld > 4000) typ = NR_STATION;
     else if (anzahl(p, TYP_TANKER) < 1 && anzahl(p, TYP_STATION) > 0) typ = NR_TANKER;
     else if (Erfunden(s_, ERF_GROSSFRACHTER, p) && anzahl(p, TYP_GROSSFRACHTER) < 1 + rang / 3 && geld > 25000) typ = NR_GROSSFRACHTER;
     if (typ == 0 || geld < s_.SchiffPreis(typ) + RESERVE) return false;
@@ -350,18 +351,24 @@ bool Computerspieler::erreichbar(int nr, int von, int ziel, bool zurueck) const 
 }
 
 int Computerspieler::erkundungsziel(int nr, int von) {
+    // The good of a system is known before anybody lands: dear goods, near home, first.
     const int hq = s_.Schiffe(PIRATEN_HQ).Planet;
-    int versuche = 0;
+    const Schiff& sch = s_.Schiffe(nr);
+    const double reichweite = sch.Treibstoff * (IstGrossfrachter(sch) || IstScout(sch) ? 2.0 : 1.0);
+    int best = 0;
+    double wert = 0;
     for (int t : nah_) {
+        const long d = abstand_[static_cast<size_t>(t)];
+        if (2.0 * d + 1 > reichweite) break;
         const Planet& pl = s_.Dokument(t);
-        if (pl.Produktion != 0 || t == hq || ziele_.count(t)) continue;
-        if (von == SOL_III ? !erreichbar(nr, SOL_III, t, true) : !erreichbar(nr, von, t, true)) {
-            if (von == SOL_III || ++versuche > 8) return 0;
-            continue;
+        if (pl.Produktion != 0 || t == hq || ziele_.count(t) || pl.Ware < 1 || pl.Ware > ANZAHL_WAREN) continue;
+        const double w = (s_.Preis(pl.Ware) - 3.0 * pl.Ware + 1.0) / (d + 3.0);
+        if (w > wert) {
+            wert = w;
+            best = t;
         }
-        return t;
     }
-    return 0;
+    return best && erreichbar(nr, von, best, true) ? best : 0;
 }
 
 int Computerspieler::handelsziel(int nr, int von) {
@@ -376,7 +383,7 @@ int Computerspieler::handelsziel(int nr, int von) {
         if (pl.Produktion == 0 || t == hq || t == von || ziele_.count(t) || pl.Ware < 1 || pl.Ware > ANZAHL_WAREN) continue;
         const long menge = std::min<long>(pl.Bestand / 100, frei);
         const long marge = s_.Preis(pl.Ware) - pl.Preis;
-        if (menge < 10 || marge <= 0) continue;
+        if (menge < 3 || marge <= 0) continue;
         const double w = static_cast<double>(marge * menge) / (2.0 * abstand_[static_cast<size_t>(t)] + 1.0);
         if (w > wert && erreichbar(nr, von, t, true)) {
             wert = w;
@@ -500,6 +507,30 @@ bool Computerspieler::handelsschiff(int nr, const std::vector<std::string>& l) {
         return true;
     }
     if (!Da(l, P_START) && !Da(l, P_TELEPORT)) return false;
+    if (Da(l, P_START) && sch.Ladung + 2 < sch.Laderaum && sch.Fracht(FRACHT_PORTAL) == 0) {
+        // A tour through the system: the next planet to discover or with stock to buy.
+        const int hq = s_.Schiffe(PIRATEN_HQ).Planet;
+        int ziel = 0;
+        long weg = 1000000;
+        for (int t = System(hier) * 10 + 1; t <= System(hier) * 10 + 10; ++t) {
+            const Planet& z = s_.Dokument(t);
+            if (t == hier || t == hq || t > s_.AnzahlPlaneten + 10 || ziele_.count(t)) continue;
+            const bool neu = z.Produktion == 0;
+            const bool ware = z.Bestand >= 300 && z.Ware >= 1 && z.Ware <= ANZAHL_WAREN && s_.Preis(z.Ware) > z.Preis;
+            if (!neu && !ware) continue;
+            const long d = ENTFERNUNG(s_, hier, t);
+            if (d < weg && erreichbar(nr, hier, t, true)) {
+                weg = d;
+                ziel = t;
+            }
+        }
+        if (ziel) {
+            ziele_.insert(ziel);
+            befehl(nr, l, P_START);
+            zielTasten(nr, ziel);
+            return true;
+        }
+    }
     if (waren <= 0 && sch.Fracht(FRACHT_PORTAL) == 0) {
         int ziel = handelsziel(nr, hier);
         if (ziel == 0) ziel = erkundungsziel(nr, hier);
