@@ -6,18 +6,28 @@
 #include "state/codes.h"
 #include "year/jahresende.h"
 
+namespace {
+
+// The type code without its blanks: SST, TST, FSS, XS, TSR, XXL.
+std::string Kuerzel(int typ) {
+    std::string k;
+    for (const char* c = TypCode(typ); *c; ++c)
+        if (*c != ' ') k += *c;
+    return k;
+}
+
+}  // namespace
+
 std::string BERICHT_KOPF(int spieler) {
     std::string k = "jahr";
     for (int p = 1; p <= spieler; ++p) {
         const std::string n = std::to_string(p);
         k += ",bargeld" + n + ",bewertung" + n + ",kredit" + n + ",rang" + n + ",erfindungen" + n + ",piraten_besiegt" + n;
     }
-    for (int t = 1; t <= ANZAHL_SCHIFFSTYPEN; ++t) k += ",schiffe_" + std::string(TypCode(t)).substr(0, 3);
-    for (int t = 1; t <= ANZAHL_SCHIFFSTYPEN; ++t) k += ",gebaut_" + std::string(TypCode(t)).substr(0, 3);
-    k += ",piraten,hq_planet,hq_schaden,komponenten";
+    for (int t = 1; t <= ANZAHL_SCHIFFSTYPEN; ++t) k += ",schiffe_" + Kuerzel(t);
+    for (int t = 1; t <= ANZAHL_SCHIFFSTYPEN; ++t) k += ",gebaut_" + Kuerzel(t);
+    k += ",piraten,piraten_wartend,hq_planet,hq_schaden,komponenten";
     for (int g = 1; g <= ANZAHL_WAREN; ++g) k += ",preis" + std::to_string(g);
-    for (auto& c : k)
-        if (c == ' ') c = '_';
     return k + "\n";
 }
 
@@ -30,12 +40,12 @@ std::string BERICHT_ZEILE(const Spiel& s, const std::vector<long>& gebaut) {
              std::to_string(s.Rang(p)) + "," + std::to_string(erf) + "," + std::to_string(s.Statistik(STAT_PIRATEN_BESIEGT, p));
     }
     long typen[ANZAHL_SCHIFFSTYPEN + 1] = {};
-    long piraten = 0;
-    for (int i = 1; i <= s.HoechstesSchiff; ++i) {
+    long piraten = 0, wartend = 0;  // new pirates may wait above HoechstesSchiff
+    for (int i = 1; i < SCHIFF_GRENZE; ++i) {
         const Schiff& sch = s.Schiffe(i);
         if (IstFrei(sch)) continue;
         if (IstPirat(sch)) {
-            ++piraten;
+            ++(i <= s.HoechstesSchiff ? piraten : wartend);
             continue;
         }
         for (int t = 1; t <= ANZAHL_SCHIFFSTYPEN; ++t)
@@ -44,7 +54,7 @@ std::string BERICHT_ZEILE(const Spiel& s, const std::vector<long>& gebaut) {
     for (int t = 1; t <= ANZAHL_SCHIFFSTYPEN; ++t) z += "," + std::to_string(typen[t]);
     for (int t = 1; t <= ANZAHL_SCHIFFSTYPEN; ++t) z += "," + std::to_string(gebaut[static_cast<size_t>(t)]);
     const Schiff& hq = s.Schiffe(PIRATEN_HQ);
-    z += "," + std::to_string(piraten) + "," + std::to_string(hq.Planet) + "," + std::to_string(hq.Schaden) + "," +
+    z += "," + std::to_string(piraten) + "," + std::to_string(wartend) + "," + std::to_string(hq.Planet) + "," + std::to_string(hq.Schaden) + "," +
          std::to_string(s.Komponenten);
     for (int g = 1; g <= ANZAHL_WAREN; ++g) z += "," + std::to_string(s.Preis(g));
     return z + "\n";

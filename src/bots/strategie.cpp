@@ -212,9 +212,12 @@ bool Computerspieler::docks() {
     for (int i = 1; i <= s_.HoechstesSchiff; ++i) piraten += IstPirat(s_.Schiffe(i)) && !IstFrei(s_.Schiffe(i)) ? 1 : 0;
     const int rang = s_.Rang(p);
     int typ = 0;
-    if (anzahl(p, TYP_FRACHTER) < std::min(1 + 2 * rang, 14)) typ = NR_FRACHTER;
+    const int frachter = anzahl(p, TYP_FRACHTER), kreuzer = anzahl(p, TYP_KREUZER);
+    if (frachter < 2) typ = NR_FRACHTER;
+    else if (kreuzer < 1) typ = NR_KREUZER;
     else if (anzahl(p, TYP_SCOUT) < 1) typ = NR_SCOUT;
-    else if (anzahl(p, TYP_KREUZER) < std::min(1 + rang / 2 + piraten / 15, 6) && geld > 2000) typ = NR_KREUZER;
+    else if (frachter < std::min(1 + 2 * rang, 14) && geld > 2500) typ = NR_FRACHTER;
+    else if (kreuzer < std::min(1 + rang / 2 + piraten / 15, 6) && geld > 2000) typ = NR_KREUZER;
     else if (anzahl(p, TYP_STATION) < 1 && geld > 4000) typ = NR_STATION;
     else if (anzahl(p, TYP_TANKER) < 1 && anzahl(p, TYP_STATION) > 0) typ = NR_TANKER;
     else if (Erfunden(s_, ERF_GROSSFRACHTER, p) && anzahl(p, TYP_GROSSFRACHTER) < 1 + rang / 3 && geld > 25000) typ = NR_GROSSFRACHTER;
@@ -396,16 +399,18 @@ int Computerspieler::handelsziel(int nr, int von) {
 int Computerspieler::piratenziel(int nr, int von) {
     const Schiff& sch = s_.Schiffe(nr);
     const int hq = s_.Schiffe(PIRATEN_HQ).Planet;
-    if (hq > 0 && sch.Bewaffnung >= 8 && sch.Schaden < 30 && erreichbar(nr, von, hq, true)) return hq;
+    // Now and then a cruiser goes out on a one-way hunt: it fights where it is stranded.
+    const bool jagd = wuerfel(12) == 0;
+    if (hq > 0 && sch.Bewaffnung >= 8 && sch.Schaden < 30 && erreichbar(nr, von, hq, !jagd)) return hq;
     int best = 0;
     long weg = 1000000;
     for (int i = 1; i <= s_.HoechstesSchiff; ++i) {
         const Schiff& pirat = s_.Schiffe(i);
         if (IstFrei(pirat) || !IstPirat(pirat) || pirat.Zustand != ZUSTAND_RUHT) continue;
         const int t = pirat.Planet;
-        if (t <= SOL_III || t > s_.AnzahlPlaneten + 10) continue;
+        if (t <= SOL_III || t > s_.AnzahlPlaneten + 10 || t == von) continue;
         const long d = abstand_[static_cast<size_t>(t)];
-        if (d < weg && erreichbar(nr, von, t, true)) {
+        if (d < weg && erreichbar(nr, von, t, !jagd)) {
             weg = d;
             best = t;
         }
