@@ -67,6 +67,7 @@ std::string Computerspieler::startSkript() const {
 // --- the plan ------------------------------------------------------------------
 
 void Computerspieler::menue(const char* taste) {
+    ++aktionenGezaehlt_[std::string("Menü ") + taste];
     plan_.push_back({std::string("key ") + taste, true, "", 0, 0, 0});
     plan_.push_back({"key ENTER", true, "", 0, 0, 0});
 }
@@ -222,6 +223,9 @@ int COMPUTERSPIEL(const BotAuftrag& a, const std::string& daten, HeadlessPlattfo
     }
     std::fprintf(stderr, "%ld Jahre in %.1f s (%.0f Jahre/s), %ld Spielstände gesichert, gelesen und verglichen\n",
                  bot.gespielteJahre(), sek, sek > 0 ? static_cast<double>(bot.gespielteJahre()) / sek : 0.0, bot.sicherungen());
+    std::string aktionen;
+    for (const auto& [name, n] : bot.aktionenGezaehlt()) aktionen += (aktionen.empty() ? "" : ", ") + name + " " + std::to_string(n);
+    std::fprintf(stderr, "Aktionen: %s\n", aktionen.c_str());
     if (status == 0) std::printf("%ld Jahre, %d Spieler: in Ordnung\n", a.jahre, a.spieler);
     return status;
 }

@@ -48,6 +48,8 @@ public:
     long gespielteJahre() const { return jahreGespielt_; }
     const std::vector<long>& gebaut() const { return gebaut_; }
     long sicherungen() const { return sicherungen_; }
+    // How often each menu item and each order was planned.
+    const std::map<std::string, long>& aktionenGezaehlt() const { return aktionenGezaehlt_; }
 
 private:
     struct Schritt {
@@ -127,6 +129,7 @@ private:
     bool sichernBestellt_ = false;
     std::vector<uint8_t> gesichert_;
     long sicherungen_ = 0;  // saves read back and compared
+    std::map<std::string, long> aktionenGezaehlt_;
 };
 
 // The driver's run: a new game of computer players for a.jahre years.

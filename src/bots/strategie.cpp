@@ -299,6 +299,11 @@ bool Computerspieler::anweisen(int nr) {
 }
 
 void Computerspieler::befehl(int nr, const std::vector<std::string>& l, int platz) {
+    static const char* const NAMEN[] = {"", "Start", "Teleportieren", "Beladen (Station)", "Beladen", "Ausrüstung",
+                                        "Tankeinheiten", "Betanken", "Betanken (Station)", "Entladen", "Ankoppeln",
+                                        "Trennen", "Angriff", "Angriff beenden", "Notruf", "Handeln", "Reparatur",
+                                        "Gerät ausliefern", "Portal installieren"};
+    ++aktionenGezaehlt_[NAMEN[platz]];
     menue("R");
     schiffWaehlen(nr);
     int von = 1;
@@ -479,7 +484,8 @@ bool Computerspieler::handelsschiff(int nr, const std::vector<std::string>& l) {
         zielTasten(nr, ziel);
         return true;
     }
-    // Away from home.
+    // Away from home; a towed station is set down first.
+    if (sch.Partner != 0) return false;
     const Planet& pl = s_.Dokument(hier);
     if (Da(l, P_PORTAL)) {
         befehl(nr, l, P_PORTAL);
@@ -643,7 +649,7 @@ bool Computerspieler::tanker(int nr, const std::vector<std::string>& l) {
             taste("ENTER");
             return true;
         }
-        if (Da(l, P_TANKER) && sch.Ladung < sch.Laderaum && s_.Bargeld(p) > 6000) {
+        if (Da(l, P_TANKER) && sch.Ladung < sch.Laderaum && s_.Bargeld(p) > 3000) {
             befehl(nr, l, P_TANKER);
             if (sch.Fracht(FRACHT_REPARATURSET) == 0 && Erfunden(s_, ERF_REPARATURSET, p)) taste("ENTER");  // Tankeinheiten
             if (Erfunden(s_, ERF_SUPERSPRIT, p)) {
