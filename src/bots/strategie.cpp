@@ -116,7 +116,7 @@ bool Computerspieler::verkaufen() {
     for (int g = 1; g <= ANZAHL_WAREN; ++g) {
         // A price fallen below half waits for the demand to come back, unless the store is full.
         if (liste[static_cast<size_t>(g)].empty() || (2 * s_.Preis(g) < s_.GrundPreis(g) && s_.Lager(g, p) < 300)) continue;
-        if (!erledigt_.insert("verkauf" + std::to_string(g)).second) continue;
+        if (!erledigt_.insert(std::string("verkauf").append(std::to_string(g))).second) continue;
         menue("V");
         auswahlGehen(liste, erste, g);
         taste("ENTER");
@@ -447,9 +447,9 @@ bool Computerspieler::handelsschiff(int nr, const std::vector<std::string>& l) {
         if (Da(l, P_AUSRUESTUNG) && sch.Partner == 0) {
             // The equipment list: repair set, devices, portal.
             std::vector<std::string> a(4);
-            if (sch.Fracht(FRACHT_REPARATURSET) == 0 && Erfunden(s_, ERF_REPARATURSET, p)) a[1] = "R";
-            if (sch.Ladung + 1 < sch.Laderaum && Erfunden(s_, ERF_GERAETE, p)) a[2] = "G";
-            if (Erfunden(s_, ERF_PORTAL, p) && sch.Ladung == 0 && sch.Laderaum >= 100) a[3] = "P";
+            if (sch.Fracht(FRACHT_REPARATURSET) == 0 && Erfunden(s_, ERF_REPARATURSET, p)) a[1].push_back('R');
+            if (sch.Ladung + 1 < sch.Laderaum && Erfunden(s_, ERF_GERAETE, p)) a[2].push_back('G');
+            if (Erfunden(s_, ERF_PORTAL, p) && sch.Ladung == 0 && sch.Laderaum >= 100) a[3].push_back('P');
             int portale = 0;
             for (int i = 1; i <= s_.HoechstesSchiff; ++i) portale += s_.Schiffe(i).Besitzer == p && s_.Schiffe(i).Fracht(FRACHT_PORTAL) == 1;
             int wahl = 0;
@@ -509,8 +509,9 @@ bool Computerspieler::handelsschiff(int nr, const std::vector<std::string>& l) {
         return true;
     }
     const bool lohnt = pl.Ware >= 1 && pl.Ware <= ANZAHL_WAREN && s_.Preis(pl.Ware) > pl.Preis;
-    if (Da(l, P_VOM_PLANETEN) && lohnt && geld >= 10L * pl.Preis + RESERVE && !erledigt_.count("lade" + std::to_string(nr))) {
-        erledigt_.insert("lade" + std::to_string(nr));
+    const std::string geladen = std::string("lade").append(std::to_string(nr));
+    if (Da(l, P_VOM_PLANETEN) && lohnt && geld >= 10L * pl.Preis + RESERVE && !erledigt_.count(geladen)) {
+        erledigt_.insert(geladen);
         angewiesen_.erase(nr);  // and then on its way
         befehl(nr, l, P_VOM_PLANETEN);
         taste("M");
