@@ -93,7 +93,7 @@ void Computerspieler::zugPlanen() {
             menue("I");
             return;
         }
-        if (verkaufen() || kreditRegeln() || docks() || schiffAnweisen() || forschen() || schiffVerkaufen() || ansehen()) return;
+        if (verkaufen() || schiffVerkaufen() || kreditRegeln() || docks() || schiffAnweisen() || forschen() || ansehen()) return;
         if (p == 1 && jahr % 100 == 61 && erledigt_.insert("aussetzen").second) {
             menue("A");
             tippen("2");
@@ -241,13 +241,24 @@ void Computerspieler::baueZaehlen() {
 bool Computerspieler::schiffVerkaufen() {
     const int p = s_.AktSpieler;
     if (erledigt_.count("verkauf")) return false;
-    // A wreck at home that the house can't afford to mend, or a second scout.
+    // A wreck at home that the house can't afford to mend, or a second scout;
+    // in debt the dearest ship at home but the last freighter, to fly again.
+    const bool schulden = s_.Bargeld(p) < 0;
+    int teuerstes = 0;
+    if (schulden) {
+        for (int i = 1; i <= s_.HoechstesSchiff; ++i) {
+            const Schiff& sch = s_.Schiffe(i);
+            if (sch.Besitzer != p || !SCHIFF_VERKAEUFLICH(s_, i)) continue;
+            if (IstFrachter(sch) && anzahl(p, TYP_FRACHTER) < 2) continue;
+            if (!teuerstes || SCHIFF_WERT(s_, i) > SCHIFF_WERT(s_, teuerstes)) teuerstes = i;
+        }
+    }
     for (int i = 1; i <= s_.HoechstesSchiff; ++i) {
         const Schiff& sch = s_.Schiffe(i);
         if (sch.Besitzer != p || !SCHIFF_VERKAEUFLICH(s_, i)) continue;
         const bool wrack = sch.Schaden >= 60 && s_.Bargeld(p) < 80L * sch.Schaden;
         const bool zuviel = IstScout(sch) && anzahl(p, TYP_SCOUT) > 1;
-        if (!wrack && !zuviel) continue;
+        if (!wrack && !zuviel && i != teuerstes) continue;
         erledigt_.insert("verkauf");
         menue("U");
         taste("SPACE");
