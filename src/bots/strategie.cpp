@@ -600,7 +600,13 @@ bool Computerspieler::kreuzer(int nr, const std::vector<std::string>& l) {
         zielTasten(nr, ziel);
         return true;
     }
-    if (Da(l, P_ANGRIFF) && sch.Bewaffnung > 0 && sch.Schaden < 50) {
+    // Only pirates and their headquarters are fought, never another house.
+    bool pirat = hier == s_.Schiffe(PIRATEN_HQ).Planet;
+    for (int i = 1; i <= s_.HoechstesSchiff && !pirat; ++i) {
+        const Schiff& o = s_.Schiffe(i);
+        pirat = !IstFrei(o) && IstPirat(o) && o.Planet == hier && (o.Zustand == ZUSTAND_RUHT || o.Zustand == ZUSTAND_ANGRIFF);
+    }
+    if (Da(l, P_ANGRIFF) && pirat && sch.Bewaffnung > 0 && sch.Schaden < 50) {
         befehl(nr, l, P_ANGRIFF);
         if (hier == s_.Schiffe(PIRATEN_HQ).Planet) {
             taste("ENTER");  // ja
