@@ -52,9 +52,8 @@ void Schiffe(const Spiel& s, Befund& b) {
         if (sch.Fracht(FRACHT_PORTAL) == 1) {
             b.pruefen(sch.Ladung == sch.Laderaum, "Schiffe", i, "Ladung", sch.Ladung);
         } else {
+            // Not held to Laderaum: a hold lost in a fight leaves the cargo aboard.
             b.pruefen(sch.Ladung == Gezaehlt(sch), "Schiffe", i, "Ladung", sch.Ladung);
-            // A device may stand one tonne over a station's hold.
-            b.pruefen(sch.Ladung <= sch.Laderaum + (IstStation(sch) ? 1 : 0), "Schiffe", i, "Ladung", sch.Ladung);
         }
         if (sch.Zustand == ZUSTAND_GEKOPPELT) {
             b.pruefen(IstStation(sch) && Lebt(s, p) && s.Schiffe(p).Partner == i, "Schiffe", i, "Partner", p);
