@@ -10,6 +10,8 @@
 #include "year/meldung.h"
 #include "state/codes.h"
 
+void (*NACH_DEM_JAHR)(Spiel&) = nullptr;
+
 void RUNDE_AUSFUEHREN(Spiel& s) {
     EINSTATISTIK(s, EST_DOCK_ANGEBOTEN, DockPlaetze(s, 1));
     MCI_Stop(s);
@@ -54,9 +56,10 @@ void RUNDE_AUSFUEHREN(Spiel& s) {
     s.MeldungSeite = 1;
     if (s.AussetzenJahre != 0) {
         s.SoundEreignis = 0;
-        return;
+    } else {
+        MARKT_ANZEIGEN(s);
+        JAHRES_KLANG(s);
     }
-    MARKT_ANZEIGEN(s);
-    JAHRES_KLANG(s);
+    if (NACH_DEM_JAHR) NACH_DEM_JAHR(s);
 }
 

@@ -148,7 +148,7 @@ void HeadlessPlattform::verdecken(int x1, int y1, int x2, int y2) {
 void HeadlessPlattform::leeren() {
     nichtGeschlafen();
     spurZeile("clear");
-    leinwand_.leeren();
+    if (pixel_) leinwand_.leeren();
     posten_.clear();
 }
 
@@ -160,7 +160,7 @@ void HeadlessPlattform::titelSetzen(const std::string& t) {
 void HeadlessPlattform::text(const std::string& t, int groesse, int x, int y, Farbe f) {
     nichtGeschlafen();
     spurZeile("print " + Zahl(x) + " " + Zahl(y) + " " + Zahl(groesse) + " " + Zahl(f) + " " + Utf8(t));
-    leinwand_.text(t, groesse, x, y, f);
+    if (pixel_) leinwand_.text(t, groesse, x, y, f);
     if (t.empty()) return;
     Posten p;
     p.x = x;
@@ -183,26 +183,26 @@ void HeadlessPlattform::textMessen(const std::string& t, int groesse, int& breit
 void HeadlessPlattform::linie(int x1, int y1, int x2, int y2, Farbe f, int breite) {
     nichtGeschlafen();
     spurZeile("line " + Zahl(x1) + " " + Zahl(y1) + " " + Zahl(x2) + " " + Zahl(y2) + " " + Zahl(f) + " " + Zahl(breite));
-    leinwand_.linie(x1, y1, x2, y2, f, breite);
+    if (pixel_) leinwand_.linie(x1, y1, x2, y2, f, breite);
 }
 
 void HeadlessPlattform::rahmen(int x1, int y1, int x2, int y2, Farbe f, int breite) {
     nichtGeschlafen();
     spurZeile("frame " + Zahl(x1) + " " + Zahl(y1) + " " + Zahl(x2) + " " + Zahl(y2) + " " + Zahl(f) + " " + Zahl(breite));
-    leinwand_.rahmen(x1, y1, x2, y2, f, breite);
+    if (pixel_) leinwand_.rahmen(x1, y1, x2, y2, f, breite);
 }
 
 void HeadlessPlattform::box(int x1, int y1, int x2, int y2, Farbe f) {
     nichtGeschlafen();
     spurZeile("box " + Zahl(x1) + " " + Zahl(y1) + " " + Zahl(x2) + " " + Zahl(y2) + " " + Zahl(f));
-    leinwand_.box(x1, y1, x2, y2, f);
+    if (pixel_) leinwand_.box(x1, y1, x2, y2, f);
     verdecken(x1, y1, x2, y2);
 }
 
 void HeadlessPlattform::kreis(int cx, int cy, int r, Farbe f, bool gefuellt, int breite) {
     nichtGeschlafen();
     spurZeile("circle " + Zahl(cx) + " " + Zahl(cy) + " " + Zahl(r) + " " + Zahl(f) + (gefuellt ? " filled" : " outline"));
-    leinwand_.kreis(cx, cy, r, f, gefuellt, breite);
+    if (pixel_) leinwand_.kreis(cx, cy, r, f, gefuellt, breite);
     if (gefuellt && r > 1) {
         int k = static_cast<int>(r * 0.7);  // the square inside the disc
         verdecken(cx - k, cy - k, cx + k, cy + k);
@@ -212,7 +212,7 @@ void HeadlessPlattform::kreis(int cx, int cy, int r, Farbe f, bool gefuellt, int
 void HeadlessPlattform::bild(const std::string& schluessel, int x, int y) {
     nichtGeschlafen();
     spurZeile("picture " + Zahl(x) + " " + Zahl(y) + " " + Utf8(schluessel));
-    leinwand_.bild(schluessel, x, y);
+    if (pixel_) leinwand_.bild(schluessel, x, y);
     int b = 0, h = 0;
     if (!leinwand_.bildGroesse(schluessel, b, h)) return;
     verdecken(x, y, x + b - 1, y + h - 1);
@@ -224,6 +224,17 @@ void HeadlessPlattform::bild(const std::string& schluessel, int x, int y) {
     p.zellB = b;
     p.zellH = h;
     posten_.push_back(std::move(p));
+}
+
+std::string HeadlessPlattform::textBei(int x, int y) const {
+    for (auto it = posten_.rbegin(); it != posten_.rend(); ++it) {
+        if (!it->istText || it->x != x || it->y != y) continue;
+        std::string t = it->text;
+        for (size_t i = 0; i < t.size(); ++i)
+            if (it->verdeckt[i]) t[i] = ' ';
+        return t;
+    }
+    return "";
 }
 
 std::string HeadlessPlattform::bildschirm() const {
@@ -296,7 +307,15 @@ void HeadlessPlattform::pumpen() {
     if (!kurzGeschlafen_) return;  // only the polling of a waiting routine takes input
     kurzGeschlafen_ = false;
     if (!warteschlange_.empty()) return;
-    if (!ausliefern() && pos_ >= skript_.size() && uhr_ >= wartenBis_) throw ProgrammEnde{0};
+    if (ausliefern() || pos_ < skript_.size() || uhr_ < wartenBis_) return;
+    if (nachschub_) {
+        skript_.clear();  // what was played is not needed again
+        pos_ = 0;
+        std::string fehler;
+        const std::string mehr = nachschub_();
+        if (!mehr.empty() && skriptLaden(mehr, fehler) && (ausliefern() || pos_ < skript_.size())) return;
+    }
+    throw ProgrammEnde{0};
 }
 
 bool HeadlessPlattform::ereignisHolen(Ereignis& e) {

@@ -4,6 +4,7 @@
 // headless driver run the game on it.
 #include <cstdint>
 #include <deque>
+#include <functional>
 #include <string>
 #include <vector>
 
@@ -21,12 +22,19 @@ public:
     void maxMsFestlegen(long long ms) { maxMs_ = ms; }
     void spurAufzeichnen(bool an) { spurAn_ = an; }
     bool schriftBereit(std::string& fehler);
+    // Asked for more script lines whenever the script is used up while the
+    // game waits for input; "" lets the run end as without it.
+    void nachschubSetzen(std::function<std::string()> f) { nachschub_ = std::move(f); }
+    // Without pixels the canvas stays black; the screen file is kept all the same.
+    void pixelZeichnen(bool an) { pixel_ = an; }
     Leinwand& leinwand() { return leinwand_; }
 
     // What is visible, one line per item (text / picture), in print order.
     std::string bildschirm() const;
     const std::string& spur() const { return spur_; }
     bool skriptAufgebraucht() const;
+    // The text that begins at (x, y) as the screen file shows it, "" if none.
+    std::string textBei(int x, int y) const;
     const std::string& titel() const { return titel_; }
     long long virtuelleZeit() const { return uhr_ - START_MS; }
     std::vector<std::string> musikGespielt;  // every piece started, in order
@@ -96,4 +104,6 @@ private:
     long long spurWiederholung_ = 0;
     std::vector<Posten> posten_;
     std::string titel_;
+    std::function<std::string()> nachschub_;
+    bool pixel_ = true;
 };

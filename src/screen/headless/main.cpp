@@ -8,6 +8,7 @@
 #include <sstream>
 #include <string>
 
+#include "bots/computerspieler.h"
 #include "flow/programm.h"
 #include "flow/spielstand.h"
 #include "screen/headless/headless_plattform.h"
@@ -18,7 +19,9 @@ namespace {
 void Hilfe() {
     std::fprintf(stderr,
                  "Aufruf: quorvant-headless [--data DIR] [--seed N] [--script DATEI|-] [--max-ms MS]\n"
-                 "                          [--screen DATEI] [--png DATEI] [--state DATEI] [--trace DATEI]\n");
+                 "                          [--screen DATEI] [--png DATEI] [--state DATEI] [--trace DATEI]\n"
+                 "       quorvant-headless --bots P --years Y [--systems N] [--capital C] [--seed S]\n"
+                 "                          [--check] [--report DATEI] [--state DATEI]\n");
 }
 
 bool Schreiben(const std::string& pfad, const std::string& inhalt) {
@@ -32,6 +35,8 @@ bool Schreiben(const std::string& pfad, const std::string& inhalt) {
 int main(int argc, char** argv) {
     std::string daten = QUORVANT_DATEN_STANDARD, skript, screen, png, state, trace;
     long long seed = -1, maxMs = 86400000LL;
+    BotAuftrag bots;
+    bool mitBots = false, mitJahren = false;
     for (int i = 1; i < argc; ++i) {
         std::string a = argv[i];
         auto wert = [&]() -> std::string {
@@ -49,6 +54,12 @@ int main(int argc, char** argv) {
         else if (a == "--png") png = wert();
         else if (a == "--state") state = wert();
         else if (a == "--trace") trace = wert();
+        else if (a == "--bots") { bots.spieler = std::stoi(wert()); mitBots = true; }
+        else if (a == "--years") { bots.jahre = std::stol(wert()); mitJahren = true; }
+        else if (a == "--systems") bots.systeme = std::stoi(wert());
+        else if (a == "--capital") bots.kapital = std::stoi(wert());
+        else if (a == "--check") bots.pruefen = true;
+        else if (a == "--report") bots.bericht = wert();
         else if (a == "--help" || a == "-h") { Hilfe(); return 0; }
         else {
             std::fprintf(stderr, "Unbekannte Option: %s\n", a.c_str());
@@ -87,7 +98,20 @@ int main(int argc, char** argv) {
 
     auto spiel = std::make_unique<Spiel>();
     spiel->ProgrammVerzeichnis = daten;
-    const int status = PROGRAMM_AUSFUEHREN(*spiel, *plattform);
+    int status = 0;
+    if (mitBots) {
+        if (bots.spieler < 1 || bots.spieler > 6 || !mitJahren || bots.jahre < 1 || !SYSTEME_ERLAUBT(bots.systeme) ||
+            bots.kapital < 0 || bots.kapital > 10000 || !skript.empty()) {
+            std::fprintf(stderr, "--bots braucht 1 bis 6 Spieler, --years ab 1, --systems 50, 80, 100, 120, 150, 200, 300\n"
+                                 "oder 400, --capital 0 bis 10000 und kein --script.\n");
+            return 2;
+        }
+        bots.saat = seed >= 0 ? static_cast<uint32_t>(seed) : 1;
+        plattform->pixelZeichnen(!png.empty());  // pixels only for a picture
+        status = COMPUTERSPIEL(bots, daten, *plattform, *spiel);
+    } else {
+        status = PROGRAMM_AUSFUEHREN(*spiel, *plattform);
+    }
 
     bool gut = true;
     if (!screen.empty()) gut &= Schreiben(screen, plattform->bildschirm());

@@ -1,0 +1,274 @@
+// What a computer player does in his turn: one action at a time, chosen
+// from the tables and planned as the keys a person would press.
+#include <algorithm>
+#include <string>
+
+#include "bots/computerspieler.h"
+#include "bots/strategie_intern.h"
+#include "orders/schiffe.h"
+#include "state/codes.h"
+#include "state/sterne.h"
+
+using namespace bots;
+
+namespace {
+
+constexpr int AKTIONEN_JE_ZUG = 40;
+
+int WaffenGrenze(const Spiel& s, const Schiff& sch, int p) {
+    if (IstFrachter(sch) || IstTanker(sch)) return 4;
+    if (IstStation(sch)) return 6;
+    if (IstGrossfrachter(sch)) return 9;
+    if (IstKreuzer(sch)) return Erfunden(s, ERF_WAFFEN, p) ? 15 : 9;
+    return 0;
+}
+
+int LaderaumGrenze(const Spiel& s, const Schiff& sch, int p) {
+    if (IstFrachter(sch) || IstTanker(sch)) return Erfunden(s, ERF_LADERAUM, p) ? 120 : 90;
+    if (IstStation(sch)) return Erfunden(s, ERF_STATIONEN, p) ? 150 : 90;
+    if (IstGrossfrachter(sch)) return 300;
+    return 0;
+}
+
+// The first ship of p resting on Sol III that passes the test, as the docks choose it; 0 none.
+template <class F>
+int ErstesAufSol(const Spiel& s, int p, F test) {
+    for (int i = 1; i <= s.HoechstesSchiff; ++i) {
+        const Schiff& sch = s.Schiffe(i);
+        if (!IstFrei(sch) && sch.Besitzer == p && sch.Zustand == ZUSTAND_RUHT && sch.Planet == SOL_III && test(sch)) return i;
+    }
+    return 0;
+}
+
+}  // namespace
+
+int Computerspieler::anzahl(int p, const char* typ) const {
+    int n = 0;
+    for (int i = 1; i <= s_.HoechstesSchiff; ++i)
+        if (s_.Schiffe(i).Besitzer == p && s_.Schiffe(i).Typ == typ) ++n;
+    return n;
+}
+
+// --- the turn ------------------------------------------------------------------------
+
+void Computerspieler::zugPlanen() {
+    const int p = s_.AktSpieler;
+    baueZaehlen();
+    if (zugJahr_ != s_.Jahr || zugSpieler_ != p) {
+        zugJahr_ = s_.Jahr;
+        zugSpieler_ = p;
+        aktionen_ = 0;
+        erledigt_.clear();
+        angewiesen_.clear();
+        ziele_.clear();
+        for (int i = 1; i <= s_.HoechstesSchiff; ++i) {
+            const Schiff& sch = s_.Schiffe(i);
+            if (!IstFrei(sch) && sch.Zustand == ZUSTAND_FLIEGT) ziele_.insert(sch.Planet);
+        }
+        if (nah_.empty()) {
+            // The planets a ship can reach from Sol III and come back, nearest first.
+            abstand_.assign(static_cast<size_t>(s_.AnzahlPlaneten) + 11, 0);
+            for (int t = 11; t <= s_.AnzahlPlaneten + 10; ++t) {
+                abstand_[static_cast<size_t>(t)] = ENTFERNUNG(s_, SOL_III, t);
+                if (abstand_[static_cast<size_t>(t)] <= 38) nah_.push_back(t);
+            }
+            std::stable_sort(nah_.begin(), nah_.end(),
+                             [this](int a, int b) { return abstand_[static_cast<size_t>(a)] < abstand_[static_cast<size_t>(b)]; });
+        }
+    }
+    if (++aktionen_ <= AKTIONEN_JE_ZUG) {
+        const long jahr = s_.Jahr - 2000;
+        if (p == 1 && jahr % 50 == 49 && !sichernBestellt_ && gesichert_.empty() && erledigt_.insert("sichern").second) {
+            sichernBestellt_ = true;
+            menue("I");
+            return;
+        }
+        if (verkaufen() || schiffVerkaufen() || kreditRegeln() || docks() || schiffAnweisen() || forschen() || ansehen()) return;
+        if (p == 1 && jahr % 100 == 61 && erledigt_.insert("aussetzen").second) {
+            menue("A");
+            tippen("2");
+            taste("ENTER");
+            return;
+        }
+    }
+    menue("W");
+}
+
+bool Computerspieler::verkaufen() {
+    const int p = s_.AktSpieler;
+    std::vector<std::string> liste(21);
+    int erste = 0;
+    for (int g = 1; g <= ANZAHL_WAREN; ++g) {
+        if (s_.Lager(g, p) <= 0) continue;
+        liste[static_cast<size_t>(g)] = s_.WarenName(g);
+        if (!erste) erste = g;
+    }
+    for (int g = 1; g <= ANZAHL_WAREN; ++g) {
+        // A price fallen below half waits for the demand to come back, unless the store is full.
+        if (liste[static_cast<size_t>(g)].empty() || (2 * s_.Preis(g) < s_.GrundPreis(g) && s_.Lager(g, p) < 300)) continue;
+        if (!erledigt_.insert(std::string("verkauf").append(std::to_string(g))).second) continue;
+        menue("V");
+        auswahlGehen(liste, erste, g);
+        taste("ENTER");
+        taste("ENTER");  // the whole stock
+        return true;
+    }
+    return false;
+}
+
+bool Computerspieler::kreditRegeln() {
+    const int p = s_.AktSpieler;
+    if (s_.Bargeld(p) < 200 && s_.Kredit(p) <= 4000 && erledigt_.insert("kredit").second) {
+        menue("K");
+        taste("ENTER");
+        tippen(std::to_string(std::min(1000, 10000 - s_.Kredit(p))));
+        taste("ENTER");
+        return true;
+    }
+    if (s_.Kredit(p) > 0 && s_.Bargeld(p) > s_.Kredit(p) + 3000 && erledigt_.insert("kredit").second) {
+        menue("K");
+        taste("DOWN");
+        taste("ENTER");
+        tippen(std::to_string(s_.Kredit(p)));
+        taste("ENTER");
+        return true;
+    }
+    return false;
+}
+
+bool Computerspieler::forschen() {
+    const int p = s_.AktSpieler;
+    bool offen = false;
+    for (int k = 1; k <= ANZAHL_ERFINDUNGEN; ++k) offen = offen || s_.Forschung(k, p) == 0;
+    if (!offen || s_.Bargeld(p) < 3000 || s_.Kredit(p) > 0 || !erledigt_.insert("forschung").second) return false;
+    menue("F");
+    tippen(std::to_string(s_.Bargeld(p) / 5));
+    taste("ENTER");
+    return true;
+}
+
+bool Computerspieler::docks() {
+    const int p = s_.AktSpieler;
+    const int plaetze = DockPlaetze(s_, p);
+    if (s_.DockSchiffe(plaetze, p) != 0 || erledigt_.count("docks2")) return false;
+    erledigt_.insert(erledigt_.count("docks") ? "docks2" : "docks");
+    const Long geld = s_.Bargeld(p);
+    // Jobs on ships at home first, then a new ship.
+    const int kaputt = ErstesAufSol(s_, p, [](const Schiff& sch) { return sch.Schaden > 0; });
+    if (kaputt && s_.Schiffe(kaputt).Schaden >= 25 && geld > 80L * s_.Schiffe(kaputt).Schaden + RESERVE) {
+        menue("D");
+        for (int i = 1; i < AUFTRAG_REPARATUR; ++i) taste("UP");
+        taste("ENTER");
+        taste("ENTER");  // the ship
+        taste("ENTER");  // ja
+        return true;
+    }
+    const int raum = ErstesAufSol(s_, p, [&](const Schiff& sch) { return sch.Laderaum < LaderaumGrenze(s_, sch, p); });
+    // Holds grow with the house: a small one is filled by a tour through a system.
+    if (raum && s_.Schiffe(raum).Laderaum < 30 + 30 * s_.Rang(p) && geld > 1000 + RESERVE) {
+        const Schiff& sch = s_.Schiffe(raum);
+        const long n = std::min<long>({LaderaumGrenze(s_, sch, p) - sch.Laderaum, 20, (geld - RESERVE) / 10});
+        menue("D");
+        for (int i = 1; i < AUFTRAG_LADERAUM; ++i) taste("UP");
+        taste("ENTER");
+        taste("ENTER");
+        tippen(std::to_string(n));
+        taste("ENTER");
+        return true;
+    }
+    const int waffen = ErstesAufSol(s_, p, [&](const Schiff& sch) { return sch.Bewaffnung < WaffenGrenze(s_, sch, p); });
+    if (waffen && (IstKreuzer(s_.Schiffe(waffen)) || wuerfel(40) == 0) && geld > 85 + 2 * RESERVE) {
+        const Schiff& sch = s_.Schiffe(waffen);
+        const long n = std::min<long>(WaffenGrenze(s_, sch, p) - sch.Bewaffnung, (geld - 2 * RESERVE) / 85);
+        menue("D");
+        for (int i = 1; i < AUFTRAG_BEWAFFNUNG; ++i) taste("UP");
+        taste("ENTER");
+        taste("ENTER");
+        tippen(std::to_string(n));
+        taste("ENTER");
+        return true;
+    }
+    if (s_.Komponenten >= 5 && geld > 200 + RESERVE &&
+        ErstesAufSol(s_, p, [](const Schiff& sch) { return !IstStation(sch) && sch.Tankgroesse == 30; })) {
+        menue("D");
+        for (int i = 1; i < AUFTRAG_DTW_FILTER; ++i) taste("UP");
+        taste("ENTER");
+        taste("ENTER");
+        taste("ENTER");
+        return true;
+    }
+    // The fleet a house of this rank wants.
+    int piraten = 0;
+    for (int i = 1; i <= s_.HoechstesSchiff; ++i) piraten += IstPirat(s_.Schiffe(i)) && !IstFrei(s_.Schiffe(i)) ? 1 : 0;
+    const int rang = s_.Rang(p);
+    int typ = 0;
+    const int frachter = anzahl(p, TYP_FRACHTER), kreuzer = anzahl(p, TYP_KREUZER);
+    if (frachter < 2) typ = NR_FRACHTER;
+    else if (kreuzer < 1) typ = NR_KREUZER;
+    else if (anzahl(p, TYP_SCOUT) < 1) typ = NR_SCOUT;
+    else if (frachter < std::min(1 + 2 * rang, 14) && geld > 2500) typ = NR_FRACHTER;
+    else if (kreuzer < std::min(1 + rang / 2 + piraten / 15, 6) && geld > 2000) typ = NR_KREUZER;
+    else if (anzahl(p, TYP_STATION) < 1 && geld > 4000) typ = NR_STATION;
+    else if (anzahl(p, TYP_TANKER) < 1 && anzahl(p, TYP_STATION) > 0) typ = NR_TANKER;
+    else if (Erfunden(s_, ERF_GROSSFRACHTER, p) && anzahl(p, TYP_GROSSFRACHTER) < 1 + rang / 3 && geld > 25000) typ = NR_GROSSFRACHTER;
+    if (typ == 0 || geld < s_.SchiffPreis(typ) + RESERVE) return false;
+    menue("D");
+    taste("ENTER");  // Bauen
+    for (int i = 1; i < typ; ++i) taste("UP");
+    taste("ENTER");
+    taste("ENTER");  // ja
+    bauTyp_ = typ;
+    bauVorher_ = anzahl(p, TypCode(typ));
+    return true;
+}
+
+void Computerspieler::baueZaehlen() {
+    if (bauTyp_ == 0) return;
+    if (anzahl(s_.AktSpieler, TypCode(bauTyp_)) > bauVorher_) ++gebaut_[static_cast<size_t>(bauTyp_)];
+    bauTyp_ = 0;
+}
+
+bool Computerspieler::schiffVerkaufen() {
+    const int p = s_.AktSpieler;
+    if (erledigt_.count("verkauf")) return false;
+    // A wreck at home that the house can't afford to mend, or a second scout;
+    // in debt the dearest ship at home but the last freighter, to fly again.
+    const bool schulden = s_.Bargeld(p) < 0;
+    int teuerstes = 0;
+    if (schulden) {
+        for (int i = 1; i <= s_.HoechstesSchiff; ++i) {
+            const Schiff& sch = s_.Schiffe(i);
+            if (sch.Besitzer != p || !SCHIFF_VERKAEUFLICH(s_, i)) continue;
+            if (IstFrachter(sch) && anzahl(p, TYP_FRACHTER) < 2) continue;
+            if (!teuerstes || SCHIFF_WERT(s_, i) > SCHIFF_WERT(s_, teuerstes)) teuerstes = i;
+        }
+    }
+    for (int i = 1; i <= s_.HoechstesSchiff; ++i) {
+        const Schiff& sch = s_.Schiffe(i);
+        if (sch.Besitzer != p || !SCHIFF_VERKAEUFLICH(s_, i)) continue;
+        const bool wrack = sch.Schaden >= 60 && s_.Bargeld(p) < 80L * sch.Schaden;
+        const bool zuviel = IstScout(sch) && anzahl(p, TYP_SCOUT) > 1;
+        if (!wrack && !zuviel && i != teuerstes) continue;
+        erledigt_.insert("verkauf");
+        menue("U");
+        taste("SPACE");
+        tippen(std::to_string(i));
+        taste("ENTER");
+        taste("ENTER");
+        return true;
+    }
+    return false;
+}
+
+bool Computerspieler::ansehen() {
+    if (s_.AktSpieler != 1) return false;
+    if (s_.Jahr % 40 == 7 && erledigt_.insert("status").second) {
+        menue("S");
+        return true;
+    }
+    if (s_.Jahr % 40 == 27 && erledigt_.insert("liste").second) {
+        menue("L");
+        return true;
+    }
+    return false;
+}

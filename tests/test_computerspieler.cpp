@@ -1,0 +1,121 @@
+// The computer players of the headless driver: the invariants they check
+// after every year catch a broken table, and a run through the driver plays
+// the years, saves through the menu and comes out the same for the same seed.
+#include <sys/wait.h>
+
+#include <algorithm>
+#include <cstdio>
+#include <fstream>
+#include <memory>
+#include <sstream>
+
+#include "bots/computerspieler.h"
+#include "flow/spielstand.h"
+#include "hilfe.h"
+#include "state/codes.h"
+
+namespace {
+
+struct Lauf {
+    int status = -1;
+    std::string ausgabe;
+};
+
+// The driver with these options; its standard output.
+Lauf Bots(const std::string& optionen) {
+    Lauf l;
+    const std::string befehl = std::string(QUORVANT_HEADLESS_PROGRAMM) + " " + optionen + " 2>/dev/null";
+    FILE* f = popen(befehl.c_str(), "r");
+    if (!f) return l;
+    char puffer[512];
+    while (fgets(puffer, sizeof puffer, f)) l.ausgabe += puffer;
+    const int st = pclose(f);
+    l.status = WIFEXITED(st) ? WEXITSTATUS(st) : -1;
+    return l;
+}
+
+std::string Lesen(const std::string& pfad) {
+    std::ifstream ein(pfad, std::ios::binary);
+    std::stringstream ss;
+    ss << ein.rdbuf();
+    return ss.str();
+}
+
+std::string LetzteZeile(const std::string& text) {
+    std::string t = text;
+    while (!t.empty() && t.back() == '\n') t.pop_back();
+    return t.substr(t.rfind('\n') == std::string::npos ? 0 : t.rfind('\n') + 1);
+}
+
+}  // namespace
+
+TEST(Computerspieler, InvariantenFindenDenBruch) {
+    const auto gut = std::make_unique<Spiel>(NeuesSpielZustand(2, 5000));
+    EXPECT_EQ(INVARIANTEN_PRUEFEN(*gut), "");
+
+    struct Fall {
+        const char* erwartet;
+        void (*verderben)(Spiel&);
+    };
+    const Fall faelle[] = {
+        {"Schiffe(1).Partner = 40", [](Spiel& s) { s.Schiffe(1).Partner = 40; }},
+        {"Schiffe(1).Ladung = 7", [](Spiel& s) { s.Schiffe(1).Ladung = 7; }},
+        {"Schiffe(2).Fracht = -32768", [](Spiel& s) { s.Schiffe(2).Fracht(3) = -32768; }},
+        {"Lager(4) = -5", [](Spiel& s) { s.Lager(4, 2) = -5; }},
+        {"Schiffe(1005).Besitzer = 7", [](Spiel& s) {
+             s.Schiffe(HAENDLER_ERSTES).Typ = TYP_KREUZER;
+             s.Schiffe(HAENDLER_ERSTES).Besitzer = BESITZER_PIRATEN;
+         }},
+        {"DockSchiffe(2, 1) = 2", [](Spiel& s) {
+             s.DockSchiffe(2, 1) = 2;  // a gap in front of it
+             s.Schiffe(2).Zustand = ZUSTAND_WERFT_BAU;
+         }},
+        {"Schiffe(12).Typ (above HoechstesSchiff) = 12", [](Spiel& s) {
+             s.Schiffe(12) = s.Schiffe(1);
+         }},
+        {"Kredit(2) = -3", [](Spiel& s) { s.Kredit(2) = -3; }},
+        {"Schiffe(1).Zustand = 0", [](Spiel& s) { s.DockSchiffe(1, 1) = 1; }},
+    };
+    for (const Fall& f : faelle) {
+        auto s = std::make_unique<Spiel>(*gut);
+        f.verderben(*s);
+        EXPECT_EQ(INVARIANTEN_PRUEFEN(*s), f.erwartet);
+    }
+}
+
+TEST(Computerspieler, SpielenSichernUndGleichesSpielBeiGleicherSaat) {
+    const std::string ordner = TempOrdner("bots");
+    const std::string optionen = "--bots 2 --years 60 --systems 50 --seed 5 --check";
+    const Lauf a = Bots(optionen + " --report " + ordner + "/a.csv --state " + ordner + "/a.bin");
+    EXPECT_EQ(a.status, 0) << a.ausgabe;
+    EXPECT_EQ(LetzteZeile(a.ausgabe), "60 Jahre, 2 Spieler: in Ordnung");
+    // The report: a heading and one row a year, from 2001 on.
+    const std::string bericht = Lesen(ordner + "/a.csv");
+    EXPECT_EQ(std::count(bericht.begin(), bericht.end(), '\n'), 61);
+    EXPECT_EQ(bericht.rfind("jahr,bargeld1,bewertung1,", 0), 0u);
+    EXPECT_NE(bericht.find("\n2001,"), std::string::npos);
+    EXPECT_NE(bericht.find("\n2060,"), std::string::npos);
+
+    const Lauf b = Bots(optionen + " --state " + ordner + "/b.bin");
+    EXPECT_EQ(b.status, 0) << b.ausgabe;
+    const std::string zustand = Lesen(ordner + "/a.bin");
+    EXPECT_GT(zustand.size(), 100000u);
+    EXPECT_EQ(zustand, Lesen(ordner + "/b.bin"));
+    const auto s = std::make_unique<Spiel>();
+    std::string fehler;
+    ASSERT_TRUE(SPIELSTAND_LESEN(*s, std::vector<uint8_t>(zustand.begin(), zustand.end()), fehler)) << fehler;
+    EXPECT_EQ(s->Jahr, 2060);
+    EXPECT_EQ(s->AnzahlSpieler, 2);
+    EXPECT_EQ(s->AnzahlPlaneten, 500);
+    EXPECT_EQ(s->SpielerName(2), "Computer2");
+    int schiffe = 0;
+    for (int i = 1; i <= s->HoechstesSchiff; ++i) schiffe += IstSpielerBesitz(s->Schiffe(i)) && !IstFrei(s->Schiffe(i));
+    EXPECT_GT(schiffe, 2) << "the houses have built ships";
+}
+
+TEST(Computerspieler, FalscheAngabenWerdenAbgewiesen) {
+    EXPECT_EQ(Bots("--bots 7 --years 1").status, 2);
+    EXPECT_EQ(Bots("--bots 2").status, 2);
+    EXPECT_EQ(Bots("--bots 2 --years 5 --systems 90").status, 2);
+    EXPECT_EQ(Bots("--bots 2 --years 5 --capital 10001").status, 2);
+}
