@@ -67,3 +67,28 @@ std::string LadeSkript();
 // loaded through the dialog, then played on with the further inputs.
 TreiberLauf GeladenSpielen(const Spiel& s, const std::string& weiter, const std::string& name,
                            const std::string& optionen = "--seed 7");
+
+// --- pieces that many tests share -------------------------------------------------
+
+// Script lines: a click, and one line n times.
+std::string Klick(int x, int y);
+std::string Mal(const std::string& zeile, int n);
+// The constant tables (goods, numerals, ship classes), which saved games do not hold.
+const Spiel& Tafeln();
+// Players Anna, Bnna, ... with 1000 SD; fifty planets "Wega " of good 4 in five
+// systems in a row, ten units apart; Sol III; no news, no headquarters.
+Spiel KleineWelt(int spieler = 1);
+// Slot nr cleared and made a ship of that type: owner, planet, guns; a full tank
+// of 30 (a pirate's empty); HoechstesSchiff raised to it.
+Schiff& SchiffSetzen(Spiel& s, int nr, const char* typ, int besitzer, int planet, int waffen = 0);
+// The news lines of the game, in UTF-8.
+std::vector<std::string> Meldungen(const Spiel& s);
+// "colour text" of every print at (x, y) in a trace, in its order.
+std::vector<std::string> Gedruckt(const std::string& spur, int x, int y);
+// The colour of the first screen line that holds the text, -1 if none does.
+long FarbeVon(const TreiberLauf& lauf, const std::string& text);
+constexpr long ROT_WERT = 255, CYAN_WERT = 16776960, GELB_WERT = 65535;
+// A picture the driver or a canvas wrote, against the golden one kept beside the
+// tests (a few glyph-edge shades may differ); QUORVANT_GOLDEN_SCHREIBEN=1 keeps
+// the new picture instead.
+void WieGolden(const std::string& png, const std::string& name);

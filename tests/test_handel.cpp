@@ -6,16 +6,6 @@
 #include "state/text.h"
 #include "views/lagerbestand.h"
 
-namespace {
-
-std::string Mal(const std::string& zeile, int n) {
-    std::string r;
-    for (int i = 0; i < n; ++i) r += zeile;
-    return r;
-}
-
-}  // namespace
-
 TEST(Handel, HinKaufenHeimVerkaufen) {
     const std::string start = NeuesSpielSkript(1, 5000, {"Anna"});
     const Spiel s0 = ZustandAus(Treiber(start));

@@ -11,28 +11,17 @@
 
 namespace {
 
+// Anna's ships in the small world: 10 t of hold, a full tank.
 struct Welt {
-    Spiel s;
-    Welt() {
-        s.AnzahlSpieler = 1;
-        VORBELEGUNG_VARIABLEN(s);
-        s.AnzahlPlaneten = 50, s.HoechstesSchiff = 20, s.SpielerName(1) = "Anna", s.Bargeld(1) = 1000;
-        s.MeldungAnzahl = 0;
-        s.Dokument(3).Name = "Sol ";
-        for (int n = 11; n <= 60; ++n) {
-            s.Dokument(n).Name = "Wega ", s.Dokument(n).X = static_cast<Integer>(10 * ((n - 1) / 10));
-            s.Dokument(n).Ware = 4;
-        }
-    }
+    Spiel s = KleineWelt();
     Schiff& schiff(int nr, const char* typ, int zustand = 0, int planet = 3) {
-        Schiff& sch = s.Schiffe(nr);
-        sch.Typ = typ, sch.Name = "x", sch.Besitzer = 1, sch.Zustand = static_cast<Integer>(zustand);
-        sch.Planet = static_cast<Integer>(planet), sch.Tankgroesse = 30, sch.Treibstoff = 30, sch.Laderaum = 10;
+        Schiff& sch = SchiffSetzen(s, nr, typ, 1, planet);
+        sch.Zustand = static_cast<Integer>(zustand), sch.Laderaum = 10;
         return sch;
     }
     std::string meldungen() const {
         std::string r;
-        for (int i = 1; i <= s.MeldungAnzahl; ++i) r += Utf8(s.MeldungText(i)) + "\n";
+        for (const std::string& z : Meldungen(s)) r += z + "\n";
         return r;
     }
 };

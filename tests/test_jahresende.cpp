@@ -13,29 +13,15 @@ namespace {
 
 using Zeilen = std::vector<std::string>;
 
-// Players Anna, Bnna, ...; fifty systems, system 2 is "Wega"; empty news.
-Spiel Welt(int spieler = 1) {
-    Spiel s;
-    s.AnzahlSpieler = static_cast<Integer>(spieler);
-    VORBELEGUNG_VARIABLEN(s);
-    s.AnzahlPlaneten = 50, s.HoechstesSchiff = 10, s.MeldungAnzahl = 0;
-    for (int p = 1; p <= spieler; ++p) s.SpielerName(p) = static_cast<char>('A' + p - 1) + std::string("nna");
-    for (int n = 21; n <= 30; ++n) s.Dokument(n).Name = "Wega ", s.Dokument(n).Ware = 4;
-    return s;
-}
+Spiel Welt(int spieler = 1) { return KleineWelt(spieler); }
 
 Schiff& Neu(Spiel& s, int nr, const char* typ, int zustand, int planet, int besitzer = 1) {
-    Schiff& sch = s.Schiffe(nr);
-    sch.Typ = typ, sch.Name = "x", sch.Zustand = static_cast<Integer>(zustand);
-    sch.Planet = static_cast<Integer>(planet), sch.Besitzer = static_cast<Integer>(besitzer);
+    Schiff& sch = SchiffSetzen(s, nr, typ, besitzer, planet);
+    sch.Zustand = static_cast<Integer>(zustand);
     return sch;
 }
 
-Zeilen News(const Spiel& s) {
-    Zeilen r;
-    for (int i = 1; i <= s.MeldungAnzahl; ++i) r.push_back(Utf8(s.MeldungText(i)));
-    return r;
-}
+Zeilen News(const Spiel& s) { return Meldungen(s); }
 
 // The news rows on the driver's screen, as "colour<TAB>text", from the row
 // that begins with `ab` on; empty if none does.

@@ -9,21 +9,11 @@
 
 namespace {
 
-std::string Mal(const std::string& zeile, int n) {
-    std::string r;
-    for (int i = 0; i < n; ++i) r += zeile;
-    return r;
-}
 const std::string DOCKS = "key D\nkey ENTER\n", JAHR = "key W\nkey ENTER\n";
 bool Hat(const std::string& text, const std::string& teil) { return text.find(teil) != std::string::npos; }
 
 // A finished ship of Anna's at rest on Sol III.
-Schiff& Heim(Spiel& s, int n, const char* typ) {
-    Schiff& sch = s.Schiffe(n) = Schiff{};
-    sch.Typ = typ, sch.Name = "x", sch.Besitzer = 1, sch.Planet = SOL_III, sch.Tankgroesse = 30;
-    s.HoechstesSchiff = std::max<Integer>(s.HoechstesSchiff, static_cast<Integer>(n));
-    return sch;
-}
+Schiff& Heim(Spiel& s, int n, const char* typ) { return SchiffSetzen(s, n, typ, 1, SOL_III); }
 
 // Anna's new game, prepared for the driver: money, and no event due soon.
 Spiel Vorbereitet(Long bargeld) {

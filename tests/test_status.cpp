@@ -1,9 +1,6 @@
 // The status screens: the fleet list filtered and sorted with the mouse, a
 // click that opens a ship, the evaluation page and the one-player figures.
-#include <png.h>
-
 #include <algorithm>
-#include <filesystem>
 #include <sstream>
 
 #include "hilfe.h"
@@ -29,17 +26,6 @@ std::vector<std::vector<int>> Listen(const std::string& spur) {
     return r;
 }
 
-// The colours and texts printed at (x, y), in the order of the trace.
-std::vector<std::string> Gedruckt(const std::string& spur, int x, int y) {
-    std::vector<std::string> r;
-    std::istringstream ein(spur);
-    const std::string kopf = "print " + std::to_string(x) + " " + std::to_string(y) + " ";
-    for (std::string z; std::getline(ein, z);)
-        if (z.rfind(kopf, 0) == 0) r.push_back(z.substr(z.find(' ', kopf.size()) + 1));
-    return r;
-}
-
-std::string Klick(int x, int y) { return "click " + std::to_string(x) + " " + std::to_string(y) + "\n"; }
 // A heading by its first column (12 pixels a character); a tab by the
 // characters before it on the tab line (10 pixels a character at size 12).
 std::string Kopf(int spalte) { return Klick(516 + 12 * spalte, 270); }
@@ -47,19 +33,10 @@ std::string Tab(int zeichen) { return Klick(655 + 10 * zeichen, 240); }
 
 Schiff& Eigenes(Spiel& s, int nr, const char* typ, int planet, int zustand = 0, int dauer = 0, int laderaum = 0,
                 int bewaffnung = 0, int schaden = 0, int partner = 0) {
-    Schiff& sch = s.Schiffe(nr);
-    sch = Schiff{};
-    sch.Typ = typ;
-    sch.Name = "Schiff";
-    sch.Besitzer = 1;
-    sch.Planet = static_cast<Integer>(planet);
-    sch.Zustand = static_cast<Integer>(zustand);
-    sch.Dauer = static_cast<Integer>(dauer);
-    sch.Laderaum = static_cast<Integer>(laderaum);
-    sch.Bewaffnung = static_cast<Integer>(bewaffnung);
-    sch.Schaden = static_cast<Integer>(schaden);
+    Schiff& sch = SchiffSetzen(s, nr, typ, 1, planet, bewaffnung);
+    sch.Zustand = static_cast<Integer>(zustand), sch.Dauer = static_cast<Integer>(dauer);
+    sch.Laderaum = static_cast<Integer>(laderaum), sch.Schaden = static_cast<Integer>(schaden);
     sch.Partner = static_cast<Integer>(partner);
-    sch.Treibstoff = 30;
     return sch;
 }
 
@@ -78,27 +55,6 @@ Spiel Flotte() {
     s.DockSchiffe(1, 1) = 3;
     s.HoechstesSchiff = 7;
     return s;
-}
-
-// The driver's picture against the golden one (a few glyph-edge shades may
-// differ); QUORVANT_GOLDEN_SCHREIBEN=1 keeps the new picture instead.
-void WieGolden(const std::string& png, const std::string& name) {
-    const std::string golden = std::string(QUORVANT_TESTDATEN) + "/golden/" + name + ".png";
-    if (std::getenv("QUORVANT_GOLDEN_SCHREIBEN"))
-        std::filesystem::copy_file(png, golden, std::filesystem::copy_options::overwrite_existing);
-    std::vector<uint8_t> pix[2];
-    for (int i = 0; i < 2; ++i) {
-        png_image b{};
-        b.version = PNG_IMAGE_VERSION;
-        ASSERT_TRUE(png_image_begin_read_from_file(&b, (i ? golden : png).c_str())) << (i ? golden : png);
-        b.format = PNG_FORMAT_RGB;
-        pix[i].resize(PNG_IMAGE_SIZE(b));
-        ASSERT_TRUE(png_image_finish_read(&b, nullptr, pix[i].data(), 0, nullptr));
-    }
-    ASSERT_EQ(pix[0].size(), pix[1].size());
-    int anders = 0;  // colour values, about three to a differing pixel
-    for (size_t i = 0; i < pix[0].size(); ++i) anders += std::abs(pix[0][i] - pix[1][i]) > 64;
-    EXPECT_LE(anders, 1200) << name;
 }
 
 }  // namespace
