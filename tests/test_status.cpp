@@ -163,29 +163,15 @@ TEST(Status, AuswertungUndWeitereInformationenEinesSpielers) {
     WieGolden(png, "status");
 }
 
-TEST(Status, BewertungOhneKreditSeitenUndOhneDocksKeineAuslastung) {
+TEST(Status, NeunzehnSchiffeAufZweiSeitenUndOhneDocksKeineAuslastung) {
     TestSpiel t("key SPACE\nkey PGUP\nkey SPACE\nkey SPACE\nkey SPACE\nkey ENTER\n");
     Spiel& s = *t.s;
     s.Dokument(3).Name = "Sol ";
-    s.Bargeld(1) = 1000;
-    s.Kredit(1) = 700;  // the wealth counts the debt, the Bewertung here does not
-    // The first hull is 352.5: a half, and the running total 1352.5 rounds to the even 1352.
-    Eigenes(s, 1, "FSS ", SOL_III, 0, 0, 0, 0, 25);
-    Eigenes(s, 2, "SST ", SOL_III, 0, 0, 10, 1).Fracht(2) = 3;  // 1050 + 3 x 40
-    Eigenes(s, 3, "TST ", SOL_III).Fracht(FRACHT_SPRIT) = 4;    // 800 + 4 x 30
-    Eigenes(s, 4, "TSR ", SOL_III).Fracht(2) = 1;               // 2000 + 40 + 30
-    s.Schiffe(4).Fracht(FRACHT_SPRIT) = 1;
-    Eigenes(s, 5, "XXL ", SOL_III).Fracht(1) = 50;              // 400, the cargo not counted
-    Eigenes(s, 6, " XS ", SOL_III, 0, 0, 0, 0, 50);             // 200
-    for (int nr = 7; nr <= 19; ++nr) Eigenes(s, nr, " XS ", SOL_III);  // 13 x 400: nineteen lines
-    Eigenes(s, 20, "SST ", SOL_III).Besitzer = 2;               // not his
-    s.HoechstesSchiff = 20;
-    s.Preis(1) = 30;
-    s.Preis(2) = 40;
-    s.Preis(3) = 50;
-    s.Lager(3, 1) = 10;                                  // 500
-    s.Forschung(1, 1) = s.Forschung(5, 1) = -1;          // 2500 x 2 x 2
-    s.Forschung(FORSCHUNG_MILLIONAER, 1) = -1;           // no invention
+    s.Bargeld(1) = 1000, s.Kredit(1) = 700;  // the wealth counts the debt, the Bewertung does not
+    for (int nr = 1; nr <= 19; ++nr) Eigenes(s, nr, " XS ", SOL_III);  // 19 x 400
+    Eigenes(s, 1, "FSS ", SOL_III, 0, 0, 0, 0, 25);  // 352.5: a half, and the running total 1352.5 rounds to the even 1352
+    Eigenes(s, 20, "SST ", SOL_III).Besitzer = 2;   // not his
+    s.Forschung(FORSCHUNG_MILLIONAER, 1) = -1;      // no invention
     s.Statistik(EST_TANKEINHEITEN, 2) = 77;
     t.p->spurAufzeichnen(true);
     ASSERT_TRUE(t.laufen([](Spiel& sp) { STATUS(sp); }));
@@ -195,7 +181,7 @@ TEST(Status, BewertungOhneKreditSeitenUndOhneDocksKeineAuslastung) {
     for (int i = 0; i < 18; ++i) erste[static_cast<size_t>(i)] = i + 1;
     EXPECT_EQ(Listen(spur), (std::vector<std::vector<int>>{erste, {19}, erste, {19}}));
     EXPECT_EQ(Gedruckt(spur, 510, 250).at(0), Utf8("255 " + T("Vermögen:       ") + "       300"));
-    EXPECT_EQ(Gedruckt(spur, 510, 275).at(0), "255 Bewertung:           21812");
+    EXPECT_EQ(Gedruckt(spur, 510, 275).at(0), "255 Bewertung:            8552");
     EXPECT_EQ(Gedruckt(spur, 510, 300).at(0), "255 Anzahl Schiffe:         19");
     // The third page stops after the payments while the docks have never been busy.
     const std::string dritte = spur.substr(spur.find("Weitere Informationen:"));

