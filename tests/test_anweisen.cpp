@@ -26,10 +26,8 @@ struct Galaxie : TestSpiel {
         s->Dokument(3).Name = "Sol ";
     }
     Schiff& schiff(int nr, const char* typ, int planet = 3, int besitzer = 1) {
-        Schiff& sch = s->Schiffe(nr);
-        sch.Typ = typ, sch.Name = "Schiff", sch.Planet = static_cast<Integer>(planet);
-        sch.Besitzer = static_cast<Integer>(besitzer), sch.Tankgroesse = 30, sch.Treibstoff = 30;
-        sch.Laderaum = std::string(typ) == "SST " ? 10 : 0;
+        Schiff& sch = SchiffSetzen(*s, nr, typ, besitzer, planet);
+        sch.Treibstoff = 30, sch.Laderaum = std::string(typ) == "SST " ? 10 : 0;
         return sch;
     }
     std::vector<std::string> menue(int nr) {
@@ -122,9 +120,7 @@ TEST(Reisen, StartMitBuchstabenUndPfeilenDannNotruf) {
     EXPECT_EQ(g.textBei(50, 690), "Entfernung: " + Space(4 - static_cast<int>(Str(f.Dauer).size())) + std::to_string(f.Dauer));
 
     g.laufen([](Spiel& s) { ORDER_NOTRUF(s, 1); });
-    EXPECT_EQ(f.Zustand, 0) << "called back before it moved";
-    EXPECT_EQ(f.Planet, 3);
-    EXPECT_EQ(f.Dauer, 0);
+    EXPECT_TRUE(f.Zustand == 0 && f.Planet == 3 && f.Dauer == 0) << "called back before it moved";
 
     f.Zustand = 1, f.StartPlanet = 3, f.Planet = 43, f.Dauer = 6;  // 4 of 10 units flown
     const int ganz = ENTFERNUNG(*g.s, 3, 43);
@@ -169,8 +165,7 @@ TEST(Reisen, TeleportierenZwischenPortalen) {
     g.schiff(5, "TSR ", 3).Zustand = 10;
     g.laufen([](Spiel& s) { ORDER_TELEPORTIEREN(s, 1); });
     EXPECT_EQ(Reise(f), "Zustand 1 Planet 44 Start -3 Dauer 1") << "Up keeps the cursor on the only other portal";
-    EXPECT_EQ(g.s->Schiffe(5).Planet, 44) << "the station goes along";
-    EXPECT_EQ(g.s->Schiffe(5).Zustand, 10);
+    EXPECT_TRUE(g.s->Schiffe(5).Planet == 44 && g.s->Schiffe(5).Zustand == 10) << "the station goes along";
 
     Galaxie h;
     h.schiff(1, "SST ", 3);
@@ -198,16 +193,14 @@ TEST(Anweisen, SchiffWaehlenMitTastenUndNummer) {
     EXPECT_EQ(gewaehlt("key SPACE\nkey 0\nkey ENTER\nkey ENTER", 9), 2);
     EXPECT_EQ(gewaehlt("key ESC", 5), 5) << "Esc gives no order";
 
-    Galaxie leer("key ENTER");
-    leer.p->spurAufzeichnen(true);
-    leer.laufen([](Spiel& s) { SCHIFFE_ANWEISEN(s); });
-    EXPECT_EQ(leer.p->spur().find("Bitte Raumschiff"), std::string::npos) << "no ships: no prompt";
-
-    Galaxie werft("key ENTER");
-    werft.schiff(3, "SST ").Zustand = -1;
-    werft.p->spurAufzeichnen(true);
-    werft.laufen([](Spiel& s) { SCHIFFE_ANWEISEN(s); });
-    EXPECT_NE(werft.p->spur().find("Raumschiff ist in der Werft!"), std::string::npos);
+    // No ships: no prompt; the only ship in the yard: refused.
+    for (int werft : {0, 1}) {
+        Galaxie g("key ENTER");
+        if (werft) g.schiff(3, "SST ").Zustand = -1;
+        g.p->spurAufzeichnen(true);
+        g.laufen([](Spiel& s) { SCHIFFE_ANWEISEN(s); });
+        EXPECT_EQ(g.p->spur().find(werft ? "Raumschiff ist in der Werft!" : "Bitte Raumschiff") != std::string::npos, werft == 1);
+    }
 }
 
 TEST(Sternkarte, FarbenLinienUndTeleport) {
