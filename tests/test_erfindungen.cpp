@@ -83,32 +83,22 @@ TEST(Erfindungen, BilligsteZuerstMitGeschichte) {
 }
 
 TEST(Erfindungen, WirkungenImSpiel) {
+    // What each invention opens; loading, filling and flying with them are the cargo and flight tests' part.
     TestSpiel t;
     Spiel& s = *t.s;
     s.AnzahlPlaneten = 50;
     Schiff& f = SchiffSetzen(s, 1, TYP_FRACHTER, 1, SOL_III);
     f.Laderaum = 100, f.Treibstoff = 10;
     EXPECT_EQ(Menue(s, 1), "Start/Betanken/") << "no invention yet";
-
     // 3 repair sets and 8 production devices: equipment to load on Sol III.
     s.Forschung(ERF_REPARATURSET, 1) = s.Forschung(ERF_GERAETE, 1) = -1;
     EXPECT_EQ(Menue(s, 1), "Start/Beladen/Betanken/");
-    auto d = Kopie(s, "key UP\nkey ENTER\ntype 3\nkey ENTER\n");
-    d->laufen([](Spiel& s) { BELADEN_AUSRUESTUNG(s, 1); });
-    EXPECT_EQ(d->s->Schiffe(1).Fracht(FRACHT_GERAETE), 3);
-    EXPECT_EQ(d->s->Bargeld(1), 5000 - 150);
-
-    // 6 Supersprit: a choice of fuel, and three units in two years.
+    // 6 Supersprit: a choice of fuel on Sol III.
     s.Forschung(ERF_SUPERSPRIT, 1) = -1;
     s.Lager(WARE_MIRELLEN, 1) = 2;
-    d = Kopie(s, "key UP\nkey ENTER\nkey ENTER\n");
+    auto d = Kopie(s, "key UP\nkey ENTER\nkey ENTER\n");
     d->laufen([](Spiel& s) { BETANKEN_SOL(s, 1); });
-    Schiff& g = d->s->Schiffe(1);
-    EXPECT_EQ(g.Supersprit, -1);
-    EXPECT_EQ(d->s->Lager(WARE_MIRELLEN, 1), 1);
-    g.Zustand = ZUSTAND_FLIEGT, g.Planet = 21, g.Dauer = 6, d->s->Jahr = 2001;
-    SCHIFF_FLUG(*d->s, 1);
-    EXPECT_EQ(g.Dauer, 4);
+    EXPECT_TRUE(d->s->Schiffe(1).Supersprit == -1 && d->s->Lager(WARE_MIRELLEN, 1) == 1);
 
     // 9 promotion: 5 + b above the market price, one b for the whole sale.
     s.Forschung(ERF_WERBUNG, 1) = -1;
@@ -118,15 +108,11 @@ TEST(Erfindungen, WirkungenImSpiel) {
     d->laufen([](Spiel& s) { WAREN_VERKAUFEN(s); });
     EXPECT_EQ(d->s->Bargeld(1), 5000 + 10 * (s.Preis(1) + 5 + 3));
 
-    // 11 portal: one on Sol III for everybody, and a teleport to another.
+    // 11 portal: one on Sol III for everybody, from where a ship may teleport.
     d = Kopie(s, "key ENTER\n");
     d->laufen([](Spiel& s) { ERFINDUNG_ZEIGEN(s, ERF_PORTAL, 2); });
+    EXPECT_EQ(d->s->Dokument(SOL_III).Portal, -1);
     EXPECT_EQ(Menue(*d->s, 1), "Start/Teleportieren/Beladen/Betanken/");
-    d->s->Dokument(34).Portal = -1;
-    const auto e = Kopie(*d->s, "key ENTER\n");
-    e->laufen([](Spiel& s) { ORDER_TELEPORTIEREN(s, 1); });
-    const Schiff& z = e->s->Schiffe(1);
-    EXPECT_TRUE(z.Planet == 34 && z.StartPlanet == -SOL_III && z.Dauer == 1);
 }
 
 TEST(Komponenten, FuenfGefundenVonAnkommendenSchiffen) {
