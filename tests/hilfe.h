@@ -1,15 +1,57 @@
 #pragma once
 // Shared pieces of the tests: a game on the headless platform fed by a
 // script, and a run of the headless driver.
+// Every game header the tests use, once.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <cmath>
 #include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <fstream>
+#include <functional>
+#include <iterator>
 #include <memory>
+#include <set>
+#include <sstream>
 #include <string>
+#include <tuple>
 #include <vector>
 
+#include "economy/forschung.h"
+#include "economy/kredit.h"
+#include "economy/markt.h"
+#include "economy/spacedocks.h"
+#include "flow/hauptschleife.h"
+#include "flow/spielstand.h"
+#include "orders/anweisen.h"
+#include "orders/fracht.h"
+#include "orders/reisen.h"
+#include "orders/schiffe.h"
+#include "orders/sonder.h"
+#include "screen/ausgabe.h"
+#include "screen/dialog.h"
+#include "screen/eingabe.h"
 #include "screen/headless/headless_plattform.h"
+#include "screen/leinwand.h"
+#include "screen/plattform.h"
+#include "state/codes.h"
+#include "state/regeln.h"
 #include "state/spiel.h"
+#include "state/sterne.h"
+#include "state/text.h"
+#include "state/zufall.h"
+#include "views/lagerbestand.h"
+#include "views/schiff_anzeigen.h"
+#include "views/status.h"
+#include "year/erfindungen.h"
+#include "year/jahr.h"
+#include "year/jahresende.h"
+#include "year/kampf.h"
+#include "year/katastrophen.h"
+#include "year/meldung.h"
 
 struct TestSpiel {
     std::unique_ptr<Spiel> s = std::make_unique<Spiel>();

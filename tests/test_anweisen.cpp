@@ -1,14 +1,6 @@
 // Choosing a ship, the order menu, the travel orders and the star map.
-#include <sstream>
 
-#include "flow/hauptschleife.h"
 #include "hilfe.h"
-#include "orders/anweisen.h"
-#include "orders/reisen.h"
-#include "state/sterne.h"
-#include "screen/ausgabe.h"
-#include "state/text.h"
-#include "year/meldung.h"
 
 namespace {
 

@@ -1,8 +1,5 @@
 // The three prompts and the input rules, driven by scripted keys.
-#include "screen/eingabe.h"
 #include "hilfe.h"
-#include "screen/ausgabe.h"
-#include "state/text.h"
 
 namespace {
 

@@ -1,19 +1,8 @@
 // Inventions: when paid research becomes one, which one, its story screen,
 // and what today's inventions open in the game. The components of the drive
 // filter found by arriving ships.
-#include <memory>
 
-#include "economy/forschung.h"
-#include "economy/markt.h"
 #include "hilfe.h"
-#include "orders/anweisen.h"
-#include "orders/fracht.h"
-#include "orders/reisen.h"
-#include "state/codes.h"
-#include "state/text.h"
-#include "state/zufall.h"
-#include "year/erfindungen.h"
-#include "year/jahr.h"
 
 namespace {
 

@@ -1,11 +1,7 @@
 // The cargo orders: loading from stations, equipment and fuel on Sol III,
 // filling tanks, unloading into stations, coupling and uncoupling.
-#include <functional>
 
 #include "hilfe.h"
-#include "orders/fracht.h"
-#include "state/codes.h"
-#include "state/text.h"
 
 namespace {
 

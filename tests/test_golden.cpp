@@ -1,9 +1,6 @@
 // Golden pictures: the main screen and the ship panel of every type, as a
 // player sees them, compared with the pictures kept beside the tests.
-#include "flow/hauptschleife.h"
 #include "hilfe.h"
-#include "state/text.h"
-#include "views/schiff_anzeigen.h"
 
 TEST(Golden, Hauptbildschirm) {
     const std::string png = TempOrdner("golden") + "/haupt.png";

@@ -1,10 +1,6 @@
 // A whole trade through the headless driver, seen in the saved state: fly
 // out, land first, buy with M, fly home, unload, sell; and the storage view.
-#include "flow/spielstand.h"
 #include "hilfe.h"
-#include "state/sterne.h"
-#include "state/text.h"
-#include "views/lagerbestand.h"
 
 TEST(Handel, HinKaufenHeimVerkaufen) {
     const std::string start = NeuesSpielSkript(1, 5000, {"Anna"});

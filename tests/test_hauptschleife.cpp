@@ -1,12 +1,6 @@
 // The turn loop, its menu and dispatch, the time limit and the ways out.
-#include <fstream>
-#include <iterator>
 
-#include "flow/hauptschleife.h"
-#include "flow/spielstand.h"
 #include "hilfe.h"
-#include "screen/ausgabe.h"
-#include "state/text.h"
 
 namespace {
 

@@ -1,13 +1,5 @@
 // The year on prepared states: flight, fuel, landing, stations, yard, market.
-#include "economy/markt.h"
-#include "year/meldung.h"
 #include "hilfe.h"
-#include "screen/ausgabe.h"
-#include "state/regeln.h"
-#include "state/sterne.h"
-#include "state/text.h"
-#include "state/zufall.h"
-#include "year/jahr.h"
 
 namespace {
 

@@ -2,12 +2,6 @@
 // tax and the disasters; with fed draws, and through the driver from
 // prepared saved games.
 #include "hilfe.h"
-#include "state/codes.h"
-#include "state/regeln.h"
-#include "state/text.h"
-#include "state/zufall.h"
-#include "year/jahresende.h"
-#include "year/katastrophen.h"
 
 namespace {
 

@@ -1,7 +1,5 @@
 // The bank and the research money: the dialogs of the main menu and the
 // yearly booking of a debt.
-#include "economy/forschung.h"
-#include "economy/kredit.h"
 #include "hilfe.h"
 
 TEST(Kredit, ImSpielAufnehmenAbzahlenUndJahresbuchung) {

@@ -3,12 +3,7 @@
 #include <gtest/gtest.h>
 #include <png.h>
 
-#include <filesystem>
-#include <memory>
-
 #include "hilfe.h"
-#include "screen/leinwand.h"
-#include "state/text.h"
 
 namespace {
 

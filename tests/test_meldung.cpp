@@ -1,9 +1,5 @@
 // The news frame: one page or pages of 17, F3, the click rows and their links.
 #include "hilfe.h"
-#include "screen/ausgabe.h"
-#include "screen/dialog.h"
-#include "state/text.h"
-#include "year/meldung.h"
 
 namespace {
 

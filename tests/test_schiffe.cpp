@@ -1,13 +1,6 @@
 // Ships: the new game's fleet, building, value, sale and the ship panel.
-#include <cstring>
-#include <sstream>
 
-#include "flow/spielstand.h"
 #include "hilfe.h"
-#include "orders/schiffe.h"
-#include "screen/ausgabe.h"
-#include "state/text.h"
-#include "views/schiff_anzeigen.h"
 
 TEST(NeuesSpiel, FrachterJeSpielerPiratenUndDialoggrenzen) {
     TreiberLauf lauf = Treiber(NeuesSpielSkript(2, 5000, {"Anna", "Björn"}));

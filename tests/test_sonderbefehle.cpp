@@ -1,12 +1,7 @@
 // Attack and special orders: prepared games loaded through the driver, the
 // order given through the menus, the records and the texts at their places.
-#include <tuple>
 
 #include "hilfe.h"
-#include "orders/sonder.h"
-#include "state/codes.h"
-#include "state/sterne.h"
-#include "state/zufall.h"
 
 namespace {
 

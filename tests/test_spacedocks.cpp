@@ -1,11 +1,8 @@
 // The spacedocks: each type built through the driver until the docks are
 // full, four jobs with the news of the year each ends, what the inventions
 // open, the money checks, the Flopse slow-down and the one-player counters.
-#include <functional>
 
-#include "economy/spacedocks.h"
 #include "hilfe.h"
-#include "state/codes.h"
 
 namespace {
 

@@ -1,12 +1,7 @@
 // The status screens: the fleet list filtered and sorted with the mouse, a
 // click that opens a ship, the evaluation page and the one-player figures.
-#include <algorithm>
-#include <sstream>
 
 #include "hilfe.h"
-#include "state/codes.h"
-#include "state/text.h"
-#include "views/status.h"
 
 namespace {
 

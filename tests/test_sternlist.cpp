@@ -1,13 +1,7 @@
 // The star list through the driver: walking the map with the keys, clicks on
 // stars and on a news line, and the panel of every kind of planet.
-#include <cmath>
 
 #include "hilfe.h"
-#include "orders/reisen.h"
-#include "screen/plattform.h"
-#include "state/codes.h"
-#include "state/regeln.h"
-#include "state/text.h"
 
 namespace {
 

@@ -1,8 +1,5 @@
 // The headless driver: its script, its delivery rule and what it writes.
-#include <fstream>
-#include "flow/spielstand.h"
 #include "hilfe.h"
-#include "state/text.h"
 
 TEST(Treiber, LieferungNurNachKurzemSchlafUndVirtuelleZeit) {
     HeadlessPlattform p;

@@ -1,15 +1,7 @@
 // The world of a new game: the generator, the rule tables, the star list,
 // the galaxy and the measure of distance.
-#include <cmath>
-#include <filesystem>
-#include <fstream>
-#include <set>
 
 #include "hilfe.h"
-#include "state/regeln.h"
-#include "state/sterne.h"
-#include "state/text.h"
-#include "state/zufall.h"
 
 namespace {
 
