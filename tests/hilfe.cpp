@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <sstream>
 
 #include "flow/programm.h"
@@ -209,4 +210,12 @@ void WieGolden(const std::string& png, const std::string& name) {
     }
     EXPECT_LE(anders, 400) << name << ": " << anders << " pixels differ, the first at (" << erster % 1024 << ", "
                            << erster / 1024 << ")";
+}
+
+Spiel RuhigesSpiel(int spieler, int ereignisJahre) {
+    static std::map<int, Spiel> neu;
+    if (!neu.count(spieler)) neu.emplace(spieler, NeuesSpielZustand(spieler, 5000));
+    Spiel s = neu.at(spieler);
+    for (int e = EREIGNIS_STEUER; e <= EREIGNIS_STREIK; ++e) s.EreignisJahre(e) = static_cast<Integer>(ereignisJahre);
+    return s;
 }

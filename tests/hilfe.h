@@ -134,3 +134,6 @@ constexpr long ROT_WERT = 255, CYAN_WERT = 16776960, GELB_WERT = 65535;
 // tests (a few glyph-edge shades may differ); QUORVANT_GOLDEN_SCHREIBEN=1 keeps
 // the new picture instead.
 void WieGolden(const std::string& png, const std::string& name);
+// A new game of seed 7 for that many players with 5000 SD each, its countdown
+// events that many years away (made once per number of players).
+Spiel RuhigesSpiel(int spieler, int ereignisJahre = 500);

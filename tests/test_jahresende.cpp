@@ -31,12 +31,7 @@ Zeilen NewsAb(const TreiberLauf& lauf, const std::string& ab) {
     return r;
 }
 
-Spiel Start(int ereignisJahre) {
-    static const Spiel s = NeuesSpielZustand(1, 5000);
-    Spiel k = s;
-    for (int e = EREIGNIS_STEUER; e <= EREIGNIS_STREIK; ++e) k.EreignisJahre(e) = static_cast<Integer>(ereignisJahre);
-    return k;
-}
+Spiel Start(int ereignisJahre) { return RuhigesSpiel(1, ereignisJahre); }
 
 }  // namespace
 

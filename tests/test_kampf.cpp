@@ -275,14 +275,6 @@ TEST(Piraten, NeuePiratenDurchDreiTore) {
 
 namespace {
 
-// A new game with the countdown events far away, so that only the fights
-// move money and ships.
-Spiel Vorbereitet(int spieler) {
-    Spiel s = NeuesSpielZustand(spieler, 5000);
-    for (int e = 1; e <= 5; ++e) s.EreignisJahre(e) = 500;
-    return s;
-}
-
 // Planet 5 of a system that no pirate, merchant or headquarters is near.
 int RuhigerPlanet(const Spiel& s) {
     for (int sys = 3; sys < s.AnzahlPlaneten / 10; ++sys) {
@@ -299,7 +291,7 @@ int RuhigerPlanet(const Spiel& s) {
 }  // namespace
 
 TEST(KampfSzenario, KreuzerGegenPiratImAustausch) {
-    Spiel s = Vorbereitet(1);
+    Spiel s = RuhigesSpiel(1);
     const int p = RuhigerPlanet(s);
     ASSERT_GT(p, 0);
     SchiffSetzen(s, 2, TYP_KREUZER, BESITZER_PIRATEN, p, 4);
@@ -316,7 +308,7 @@ TEST(KampfSzenario, KreuzerGegenPiratImAustausch) {
 }
 
 TEST(KampfSzenario, PiratZerstoertEinePraemie) {
-    Spiel s = Vorbereitet(2);
+    Spiel s = RuhigesSpiel(2);
     const int p = RuhigerPlanet(s);
     ASSERT_GT(p, 0);
     SchiffSetzen(s, 3, TYP_KREUZER, BESITZER_PIRATEN, p, 4).Schaden = 95;
@@ -336,7 +328,7 @@ TEST(KampfSzenario, PiratZerstoertEinePraemie) {
 }
 
 TEST(KampfSzenario, HauptquartierFaellt) {
-    Spiel s = Vorbereitet(1);
+    Spiel s = RuhigesSpiel(1);
     const int hq = s.Schiffe(PIRATEN_HQ).Planet;
     ASSERT_GT(hq, 0);
     s.Schiffe(PIRATEN_HQ).Schaden = 88;
@@ -372,7 +364,7 @@ TEST(KampfSzenario, HauptquartierFaellt) {
 }
 
 TEST(KampfSzenario, FrachterVerliertAllesUndLaesstDieStation) {
-    Spiel s = Vorbereitet(1);
+    Spiel s = RuhigesSpiel(1);
     const int p = RuhigerPlanet(s);
     ASSERT_GT(p, 0);
     Schiff& f = SchiffSetzen(s, 1, TYP_FRACHTER, 1, p, 1);
@@ -406,7 +398,7 @@ TEST(KampfSzenario, FrachterVerliertAllesUndLaesstDieStation) {
 }
 
 TEST(KampfSzenario, PiratUeberfaelltBeiAnkunft) {
-    Spiel s = Vorbereitet(1);
+    Spiel s = RuhigesSpiel(1);
     const int p = RuhigerPlanet(s);
     ASSERT_GT(p, 0);
     Planet& pl = s.Dokument(p);
@@ -428,7 +420,7 @@ TEST(KampfSzenario, PiratUeberfaelltBeiAnkunft) {
 TEST(KampfSzenario, AngriffAufNichtsEndetOhneAbsturz) {
     // Victims inside the table but empty or never used: the year runs and the
     // partner check ends the attacks.
-    Spiel s = Vorbereitet(1);
+    Spiel s = RuhigesSpiel(1);
     const int p = RuhigerPlanet(s);
     ASSERT_GT(p, 0);
     Kreuzer(s, 7, 1, p, 9, 500);

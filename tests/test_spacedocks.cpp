@@ -14,10 +14,8 @@ Schiff& Heim(Spiel& s, int n, const char* typ) { return SchiffSetzen(s, n, typ, 
 
 // Anna's new game, prepared for the driver: money, and no event due soon.
 Spiel Vorbereitet(Long bargeld) {
-    Spiel s = NeuesSpielZustand(1, 5000);
-    s.SpielerName(1) = "Anna";
-    s.Bargeld(1) = bargeld;
-    for (int e = 1; e <= 5; ++e) s.EreignisJahre(e) = 50;
+    Spiel s = RuhigesSpiel(1, 50);
+    s.SpielerName(1) = "Anna", s.Bargeld(1) = bargeld;
     return s;
 }
 
