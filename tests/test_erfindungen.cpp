@@ -83,15 +83,13 @@ TEST(Erfindungen, WirkungenImSpiel) {
     s.Forschung(ERF_REPARATURSET, 1) = s.Forschung(ERF_GERAETE, 1) = -1;
     EXPECT_EQ(Menue(s, 1), "Start/Beladen/Betanken/");
     // 6 Supersprit: a choice of fuel on Sol III.
-    s.Forschung(ERF_SUPERSPRIT, 1) = -1;
-    s.Lager(WARE_MIRELLEN, 1) = 2;
+    s.Forschung(ERF_SUPERSPRIT, 1) = -1, s.Lager(WARE_MIRELLEN, 1) = 2;
     auto d = Kopie(s, "key UP\nkey ENTER\nkey ENTER\n");
     d->laufen([](Spiel& s) { BETANKEN_SOL(s, 1); });
     EXPECT_TRUE(d->s->Schiffe(1).Supersprit == -1 && d->s->Lager(WARE_MIRELLEN, 1) == 1);
 
     // 9 promotion: 5 + b above the market price, one b for the whole sale.
-    s.Forschung(ERF_WERBUNG, 1) = -1;
-    s.Lager(1, 1) = 10;
+    s.Forschung(ERF_WERBUNG, 1) = -1, s.Lager(1, 1) = 10;
     d = Kopie(s, "key ENTER\nkey ENTER\n");
     RndFolge(*d->s, {0.5f});
     d->laufen([](Spiel& s) { WAREN_VERKAUFEN(s); });
@@ -107,8 +105,7 @@ TEST(Erfindungen, WirkungenImSpiel) {
 TEST(Komponenten, FuenfGefundenVonAnkommendenSchiffen) {
     TestSpiel t("key ENTER\nkey ENTER\nkey ENTER\n");
     Spiel& s = *t.s;
-    s.AnzahlSpieler = 2;
-    s.Bargeld(2) = 0;
+    s.AnzahlSpieler = 2, s.Bargeld(2) = 0;
     const Integer orte[] = {23, 35, 23, 47, 14};  // two on planet 23; the fifth is found first
     for (int i = 1; i <= 5; ++i) s.KomponentenPlanet(i) = orte[i - 1];
     struct Flug { const char* typ; Integer planet, dauer, besitzer; };

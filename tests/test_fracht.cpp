@@ -136,8 +136,7 @@ TEST(BeladenTanker, TankeinheitenReparatursetUndSupersprit) {
     auto tanker = [](const std::string& skript, Long geld, std::initializer_list<int> erfunden = {}, int mirellen = 0) {
         return Befehl(BELADEN_TANKER, 1, skript, [=](Lade& l) {
             l.schiff(1, TYP_TANKER, SOL_III, 60);
-            l.s->Bargeld(1) = geld;
-            l.s->Lager(WARE_MIRELLEN, 1) = static_cast<Integer>(mirellen);
+            l.s->Bargeld(1) = geld, l.s->Lager(WARE_MIRELLEN, 1) = static_cast<Integer>(mirellen);
         }, erfunden);
     };
     auto n = tanker("key ENTER", 5000);
@@ -186,8 +185,7 @@ TEST(Betanken, AufSolIII) {
         return Befehl(BETANKEN_SOL, 1, skript, [=](Lade& l) {
             Schiff& f = l.schiff(1, typ);
             f.Treibstoff = tank, f.Supersprit = -1;
-            l.s->Bargeld(1) = geld;
-            l.s->Lager(WARE_MIRELLEN, 1) = static_cast<Integer>(mirellen);
+            l.s->Bargeld(1) = geld, l.s->Lager(WARE_MIRELLEN, 1) = static_cast<Integer>(mirellen);
         }, erfunden);
     };
     auto a = tanken("key ENTER", TYP_FRACHTER, 29, 5000);

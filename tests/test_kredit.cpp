@@ -55,8 +55,7 @@ TEST(Kredit, DialogeMitGrenzenUndAblehnungen) {
     };
     for (const Fall& f : faelle) {
         TestSpiel t(f.skript);
-        t.s->Kredit(1) = f.kredit;
-        t.s->Bargeld(1) = f.bargeld;
+        t.s->Kredit(1) = f.kredit, t.s->Bargeld(1) = f.bargeld;
         for (int k = 1; k <= 11; ++k) t.s->Forschung(k, 1) = f.allesErfunden ? -1 : 0;
         const Long rest = t.s->ForschungsRest(1);
         EXPECT_TRUE(t.laufen(f.dialog)) << f.skript;

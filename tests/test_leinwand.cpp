@@ -76,8 +76,7 @@ TEST_F(LeinwandTest, BilderUndPlatzhalter) {
         std::vector<uint8_t> rgb;
         for (int i = 0; i < seite * seite; ++i) rgb.insert(rgb.end(), {r, 0, b});
         png_image bild{};
-        bild.version = PNG_IMAGE_VERSION;
-        bild.width = bild.height = static_cast<png_uint_32>(seite);
+        bild.version = PNG_IMAGE_VERSION, bild.width = bild.height = static_cast<png_uint_32>(seite);
         bild.format = PNG_FORMAT_RGB;
         ASSERT_TRUE(png_image_write_to_file(&bild, (ordner + "/bilder/" + name).c_str(), 0, rgb.data(), 0, nullptr));
     };

@@ -10,8 +10,7 @@ struct News : TestSpiel {
         s->MeldungAnzahl = static_cast<Integer>(zeilen);
         for (int i = 1; i <= zeilen; ++i) {
             s->MeldungText(i) = "Zeile " + std::to_string(i);
-            s->MeldungFarbe(i) = CYAN;
-            s->MeldungPlanet(i) = -1;
+            s->MeldungFarbe(i) = CYAN, s->MeldungPlanet(i) = -1;
         }
     }
     // Draws the frame, then waits for Enter while F3 may leaf.

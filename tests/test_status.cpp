@@ -47,8 +47,7 @@ Spiel Flotte() {
     Eigenes(s, 6, "TSR ", 31,      ZUSTAND_GEKOPPELT, 0,    90, 0,  0,  4);
     Eigenes(s, 7, "FSS ", 41).Besitzer = BESITZER_PIRATEN;
     s.Schiffe(4).Ladung = s.Schiffe(4).Fracht(1) = 5;
-    s.DockSchiffe(1, 1) = 3;
-    s.HoechstesSchiff = 7;
+    s.DockSchiffe(1, 1) = 3, s.HoechstesSchiff = 7;
     return s;
 }
 
@@ -101,9 +100,7 @@ TEST(Status, AuswertungUndWeitereInformationenEinesSpielers) {
     Spiel s = Flotte();
     s.Bargeld(1) = 4000;
     s.Kredit(1) = 6000;  // the wealth goes below zero
-    s.Statistik(1, 1) = 1234;
-    s.Statistik(14, 1) = 5;
-    s.Statistik(STAT_PIRATEN_BESIEGT, 1) = 3;
+    s.Statistik(1, 1) = 1234, s.Statistik(14, 1) = 5, s.Statistik(STAT_PIRATEN_BESIEGT, 1) = 3;
     s.Komponenten = 5;  // the DTW filter's lines show
     const long zaehler[22] = {0, 123456, 23456, 3456, 456, 199, 7000, 1000, 2000, 1500, 2000, 500,
                               333, 2, 44, 55, 395, 49, 100, 33, 16, 1};

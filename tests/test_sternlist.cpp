@@ -82,8 +82,7 @@ TEST(Sternliste, TafelnVonNachrichtUndSternen) {
         sch.Zustand = zustand[i], sch.Dauer = zustand[i] == 1 ? 40 : 0;
     }
     Schiff& h = s.Schiffe(HAENDLER_ERSTES + 1);
-    h.Planet = static_cast<Integer>(a);
-    h.Zustand = 1;
+    h.Planet = static_cast<Integer>(a), h.Zustand = 1;
     h.Dauer = 1;  // lands in the year of the load
 
     const std::string png = TempOrdner("sternlist-png") + "/tafel.png";

@@ -9,8 +9,7 @@ const float GROESSTER_ZUG = std::nextafter(1.0f, 0.0f);  // 1 - 2^-24
 
 std::unique_ptr<Spiel> NeuesSpiel(int planeten = 0) {
     auto s = std::make_unique<Spiel>();
-    s->ProgrammVerzeichnis = QUORVANT_DATEN_STANDARD;
-    s->AnzahlPlaneten = static_cast<Integer>(planeten);
+    s->ProgrammVerzeichnis = QUORVANT_DATEN_STANDARD, s->AnzahlPlaneten = static_cast<Integer>(planeten);
     return s;
 }
 
