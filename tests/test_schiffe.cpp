@@ -2,9 +2,12 @@
 
 #include "hilfe.h"
 
-TEST(NeuesSpiel, FrachterJeSpielerPiratenUndDialoggrenzen) {
-    TreiberLauf lauf = Treiber(NeuesSpielSkript(2, 5000, {"Anna", "Björn"}));
+TEST(NeuesSpiel, FrachterJeSpielerPiratenHauptbildschirmUndDialoggrenzen) {
+    // The main screen of this new game is also the golden picture of it.
+    const std::string png = TempOrdner("golden") + "/haupt.png";
+    TreiberLauf lauf = Treiber(NeuesSpielSkript(2, 5000, {"Anna", "Björn"}), "--seed 7 --png " + png);
     ASSERT_EQ(lauf.status, 0) << lauf.fehler;
+    WieGolden(png, "hauptbildschirm");
     Spiel s = ZustandAus(lauf);
     EXPECT_EQ(s.SpielerName(2), T("Björn"));
     EXPECT_EQ(s.HoechstesSchiff, 7);
