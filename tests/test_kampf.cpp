@@ -37,11 +37,7 @@ constexpr float NAECHSTE = 0.625f;  // a marker draw: what the rule left unused
 // --- the exchange of fire --------------------------------------------------------
 
 TEST(Angriff, GegenfeuerNachWaffenabstand) {
-    struct Fall {
-        int angreifer, opfer;
-        std::vector<float> zuege;
-        int schadenOpfer, schadenAngreifer;
-    };
+    struct Fall { int angreifer, opfer; std::vector<float> zuege; int schadenOpfer, schadenAngreifer; };
     const Fall faelle[] = {
         {5, 5, {0.5f, 0.9f}, 2, 0},      // equal: the answer is 0 x Rnd
         {7, 5, {0.375f, 0.75f}, 8, 2},   // 2 better: 6 + Round(1.5), answer Round(1.5)
@@ -121,11 +117,7 @@ TEST(Schaden, VerlusteEinJahrNachDemAnderen) {
     EXPECT_TRUE(f.Bewaffnung == 0 && f.Laderaum == 10 && f.Ladung == 0 && f.Fracht(1) == 0 && f.Fracht(FRACHT_GERAETE) == 0);
     EXPECT_EQ(f.Fracht(FRACHT_REPARATURSET), 1) << "the repair set stays aboard";
 
-    struct Fall {
-        const char* typ;
-        int schaden, waffen, laderaum, ladung;
-        std::string meldung;
-    };
+    struct Fall { const char* typ; int schaden, waffen, laderaum, ladung; std::string meldung; };
     const Fall faelle[] = {
         {TYP_FRACHTER, 75, 0, 50, 5, "SST 4 hat den Laderaum verloren!\n"},
         {TYP_FRACHTER, 75, 0, 10, 5, "SST 4 hat die Ladung verloren!\n"},
@@ -231,12 +223,7 @@ TEST(Piraten, FluchtVorEinemStaerkeren) {
 
 TEST(Piraten, NeuePiratenDurchDreiTore) {
     // Five pirates in 50 planets: the second gate needs Rnd x 700 below 10.
-    struct Fall {
-        int piraten, hq;
-        std::vector<float> zuege;
-        bool neu;
-        const char* was;
-    };
+    struct Fall { int piraten, hq; std::vector<float> zuege; bool neu; const char* was; };
     const Fall faelle[] = {
         {5, 33, {0.3f}, false, "first gate shut"},
         {5, 33, {0.1f, 0.02f}, false, "second gate shut"},

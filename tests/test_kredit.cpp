@@ -33,13 +33,8 @@ TEST(Kredit, DialogeMitGrenzenUndAblehnungen) {
     struct Fall {
         void (*dialog)(Spiel&);
         const char* skript;
-        Integer kredit;
-        Long bargeld;
-        Integer kreditDanach;
-        Long bargeldDanach;
-        int y;
-        const char* text;
-        bool allesErfunden = false;
+        Integer kredit; Long bargeld; Integer kreditDanach; Long bargeldDanach;
+        int y; const char* text; bool allesErfunden = false;
     };
     const Fall faelle[] = {
         // At the limit the prompt takes no digit but 0, and nothing is booked.
