@@ -127,25 +127,17 @@ TEST(Reisen, ZielWaehlenTasten) {
         g.laufen([](Spiel& s) { ZIEL_WAEHLEN(s, 1); });
         return g.s->Eingabe;
     };
-    EXPECT_EQ(ziel("key UP"), 11);
-    EXPECT_EQ(ziel("key UP\nkey DOWN"), 3) << "down from 11 passes 10 to Sol III";
-    EXPECT_EQ(ziel("key UP\nkey DOWN\nkey DOWN"), 60);
-    EXPECT_EQ(ziel("key DOWN"), 60);
-    EXPECT_EQ(ziel("key TAB"), 11);
-    EXPECT_EQ(ziel("key TAB", 47), 11) << "the last star cannot be reached by Tab";
-    EXPECT_EQ(ziel("key TAB", 35), 41);
-    EXPECT_EQ(ziel("key PERIOD", 35), 3);
-    EXPECT_EQ(ziel("key C"), 31);
-    EXPECT_EQ(ziel("key Q"), 3) << "no star begins with Q";
-    EXPECT_EQ(ziel("key W"), 3) << "the last star cannot be reached by a letter";
-    EXPECT_EQ(ziel("key SPACE\nkey RIGHT"), 11) << "the nearest star to the right";
-    EXPECT_EQ(ziel("key SPACE\nkey RIGHT\nkey RIGHT\nkey RIGHT"), 41) << "Capella lies above the row";
-    EXPECT_EQ(ziel("key SPACE\nkey UP"), 3) << "Capella lies more to the side than above Sol";
-    EXPECT_EQ(ziel("key SPACE\nkey UP", 22), 31);
-    EXPECT_EQ(ziel("key SPACE\nkey DOWN"), 3) << "nothing below: the cursor stays";
-    EXPECT_EQ(ziel("key SPACE\nkey LEFT", 22), 11);
-    EXPECT_EQ(ziel("key SPACE\nkey LEFT", 12), 3) << "Sol counts as a candidate";
-    EXPECT_EQ(ziel("key ESC"), -1);
+    // Down from 11 passes 10 to Sol III; the last star is reached neither by Tab nor by a letter, and no
+    // star begins with Q. After the blank the arrows look for the nearest star that way: Capella lies
+    // above the row, and more to the side than above Sol; nothing below keeps the cursor; Sol counts too.
+    struct Fall { const char* tasten; int start; Long ziel; };
+    const Fall faelle[] = {
+        {"key UP", 3, 11}, {"key UP\nkey DOWN", 3, 3}, {"key UP\nkey DOWN\nkey DOWN", 3, 60}, {"key DOWN", 3, 60},
+        {"key TAB", 3, 11}, {"key TAB", 47, 11}, {"key TAB", 35, 41}, {"key PERIOD", 35, 3}, {"key C", 3, 31},
+        {"key Q", 3, 3}, {"key W", 3, 3}, {"key SPACE\nkey RIGHT", 3, 11}, {"key SPACE\nkey RIGHT\nkey RIGHT\nkey RIGHT", 3, 41},
+        {"key SPACE\nkey UP", 3, 3}, {"key SPACE\nkey UP", 22, 31}, {"key SPACE\nkey DOWN", 3, 3},
+        {"key SPACE\nkey LEFT", 22, 11}, {"key SPACE\nkey LEFT", 12, 3}, {"key ESC", 3, -1}};
+    for (const Fall& f : faelle) EXPECT_EQ(ziel(f.tasten, f.start), f.ziel) << f.tasten << " from " << f.start;
 }
 
 TEST(Reisen, TeleportierenZwischenPortalen) {
@@ -184,7 +176,6 @@ TEST(Anweisen, SchiffWaehlenMitTastenUndNummer) {
     EXPECT_EQ(gewaehlt("key SPACE\nkey 6\nkey ENTER\nkey ENTER"), 9);
     EXPECT_EQ(gewaehlt("key SPACE\nkey 0\nkey ENTER\nkey ENTER", 9), 2);
     EXPECT_EQ(gewaehlt("key ESC", 5), 5) << "Esc gives no order";
-
     // No ships: no prompt; the only ship in the yard: refused.
     for (int werft : {0, 1}) {
         Galaxie g("key ENTER");

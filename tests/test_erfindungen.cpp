@@ -57,7 +57,6 @@ TEST(Erfindungen, BilligsteZuerstMitGeschichte) {
     EXPECT_EQ(t.textBei(510, 400), "über 60% aller Lagerbrände.");
     EXPECT_NE(t.bildschirm().find("text\t510\t700\t15\t65535\tWeiter mit einer beliebigen Taste."), std::string::npos);
     EXPECT_TRUE(t.p->musikGespielt.back().ends_with("/ForschungQuorvant.mid"));
-
     // The last one: nothing is left, the rest stays at 1; no music with the sound off.
     TestSpiel u("key ENTER\n");
     Kosten(*u.s);
@@ -87,14 +86,12 @@ TEST(Erfindungen, WirkungenImSpiel) {
     auto d = Kopie(s, "key UP\nkey ENTER\nkey ENTER\n");
     d->laufen([](Spiel& s) { BETANKEN_SOL(s, 1); });
     EXPECT_TRUE(d->s->Schiffe(1).Supersprit == -1 && d->s->Lager(WARE_MIRELLEN, 1) == 1);
-
     // 9 promotion: 5 + b above the market price, one b for the whole sale.
     s.Forschung(ERF_WERBUNG, 1) = -1, s.Lager(1, 1) = 10;
     d = Kopie(s, "key ENTER\nkey ENTER\n");
     RndFolge(*d->s, {0.5f});
     d->laufen([](Spiel& s) { WAREN_VERKAUFEN(s); });
     EXPECT_EQ(d->s->Bargeld(1), 5000 + 10 * (s.Preis(1) + 5 + 3));
-
     // 11 portal: one on Sol III for everybody, from where a ship may teleport.
     d = Kopie(s, "key ENTER\n");
     d->laufen([](Spiel& s) { ERFINDUNG_ZEIGEN(s, ERF_PORTAL, 2); });
@@ -126,7 +123,6 @@ TEST(Komponenten, FuenfGefundenVonAnkommendenSchiffen) {
     EXPECT_EQ(s.KomponentenPlanet(2), 35);
     EXPECT_EQ(t.textBei(510, 280), "Auf dem Planeten, den Sie neu entdeckt ") << "the third story, by the count";
     EXPECT_TRUE(t.p->musikGespielt.back().ends_with("/DTWQuorvant.mid"));
-
     // Next year the freighter and the scout arrive by one step.
     s.Schiffe(3).Dauer = 1;
     s.Schiffe(5).Dauer = 2;

@@ -72,14 +72,12 @@ TEST(BeladenVonStation, AlleWarenGeraeteUndEineWare) {
     EXPECT_TRUE(a->gedruckt(50, 690, "   7")) << "the proposal: all goods, the devices stay";
     EXPECT_EQ(Ladeliste((*a)[1]) + " | " + Ladeliste((*a)[2]), "1:2 5:2 20:3 L7 | 5:2 24:2 L6");
     EXPECT_EQ(a->s->Bargeld(1), 5000);
-
     // Geräte with 3 t free: one fits, and Enter takes the proposal.
     auto g = Befehl(BELADEN_VON_STATION, 1, "key ENTER\nkey ENTER\nkey ENTER", [&](Lade& l) {
         aufbau(l);
         l[1].Ladung = 7;
     });
     EXPECT_EQ(Ladeliste((*g)[1]) + " | " + Ladeliste((*g)[2]), "1:2 24:1 L9 | 5:4 20:3 24:1 L9");
-
     // The goods stand in reverse order behind the first two places: good 20, then good 5.
     auto e = Befehl(BELADEN_VON_STATION, 1, "key ENTER\nkey UP\nkey UP\nkey UP\nkey ENTER\nkey ENTER", aufbau);
     EXPECT_EQ(Ladeliste((*e)[1]), "1:2 5:4 L6");
@@ -101,7 +99,6 @@ TEST(BeladenAusruestung, ReparatursetGeraeteUndPortal) {
                       {ERF_REPARATURSET});
     EXPECT_EQ(rep->eins(), "22:1 L0 / 4000 SD") << "a repair set takes no room";
     EXPECT_EQ(rep->textBei(422, 570), " 4000") << "the cash, its last digit at x 470";
-
     // Devices: room for 3, cash for 2; typing 3 is refused.
     auto geraete = [](const std::string& skript, int ladung) {
         return Befehl(BELADEN_AUSRUESTUNG, 1, skript, [=](Lade& l) {
@@ -116,7 +113,6 @@ TEST(BeladenAusruestung, ReparatursetGeraeteUndPortal) {
     EXPECT_TRUE(g3->gedruckt(50, 690, "Nicht genug Geld vorhanden!"));
     EXPECT_EQ(Ladeliste((*g3)[1]), "L3");
     EXPECT_FALSE(geraete("", 9)->gedruckt(50, 660, T("Produktionsgeräte"))) << "1 t free: no device offered";
-
     // The portal: refused before the question without 100000 SD; it fills the hold.
     auto portal = [](const std::string& skript, Long geld) {
         return Befehl(BELADEN_AUSRUESTUNG, 1, skript, [=](Lade& l) {
@@ -154,7 +150,6 @@ TEST(BeladenTanker, TankeinheitenReparatursetUndSupersprit) {
 
     auto rep = tanker("key UP\nkey ENTER", 5000, {ERF_REPARATURSET});
     EXPECT_EQ(rep->eins(), "22:1 L0 / 4000 SD") << "no question asked";
-
     // Supersprit: 10 t Mirellen and 60 TE free propose 50; 51 would need 11 t; 6 units cost 2 t.
     auto s50 = tanker("key ENTER\nkey ENTER", 5000, {ERF_SUPERSPRIT}, 10);
     EXPECT_EQ(Ladeliste((*s50)[1]), "23:50 L50");
@@ -167,7 +162,6 @@ TEST(BeladenTanker, TankeinheitenReparatursetUndSupersprit) {
     auto normal = tanker("key DOWN\nkey ENTER\nkey 7\nkey ENTER", 5000, {ERF_SUPERSPRIT});
     EXPECT_TRUE(normal->gedruckt(50, 690, "Wie viele Tankeinheiten? "));
     EXPECT_EQ(Ladeliste((*normal)[1]), "21:7 L7");
-
     // Elsewhere from a station: Supersprit first; fuel in a station is not part of its Ladung.
     auto st = Befehl(BELADEN_TANKER, 1, "key ENTER\nkey 4\nkey ENTER", [](Lade& l) {
         Schiff& t = l.schiff(1, TYP_TANKER, 23);
@@ -218,7 +212,6 @@ TEST(Betanken, VonDerErstenStationMitTreibstoff) {
     EXPECT_EQ(Tank((*l)[1]), "30 normal");
     EXPECT_EQ((*l)[3].Fracht(FRACHT_SPRIT), 3) << "one unit per filling, however much goes in";
     EXPECT_EQ(l->s->Bargeld(1), 5000) << "no money passes";
-
     // With Supersprit known: a freighter starts on the last kind there, a station on the first.
     auto mit = [](int nr) {
         return Befehl(BETANKEN_STATION, nr, "key ENTER", [](Lade& x) {
@@ -246,7 +239,6 @@ TEST(Entladen, WasNichtPasstBleibtAnBord) {
     EXPECT_TRUE(alle->gedruckt(50, 630, "Entladen in TSR    :   "));
     EXPECT_TRUE(alle->gedruckt(50, 660, "Welche Waren? (Lagerplatz: 3t)"));
     EXPECT_EQ(Ladeliste((*alle)[2]) + " | " + Ladeliste((*alle)[1]), "1:3 L90 | 1:2 3:4 24:3 L12") << "good 1 first";
-
     // Devices: 3 t free take one, the second would need 2 more.
     auto ger = Befehl(ENTLADEN, 1, "key ENTER\nkey UP\nkey UP\nkey UP\nkey ENTER", aufbau);
     EXPECT_EQ(Ladeliste((*ger)[2]) + " | " + Ladeliste((*ger)[1]), "24:1 L89 | 1:5 3:4 24:2 L13");
@@ -278,7 +270,6 @@ TEST(Koppeln, AnkoppelnUndTrennen) {
     EXPECT_EQ(Lage((*a)[7]), "Zustand 0 Partner 5 Planet 23");
     EXPECT_EQ((*koppeln("key UP\nkey UP\nkey ENTER"))[5].Partner, 4) << "round past the highest slot";
     EXPECT_EQ(Lage((*koppeln("key ESC"))[5]), "Zustand 0 Partner 0 Planet 23");
-
     // Uncoupled where the freighter stands.
     (*a)[7].Planet = 44;
     a->laufen([](Spiel& s) { TRENNEN(s, 5); });

@@ -35,14 +35,12 @@ TEST(Hauptschleife, MenueFolgtDemSpielerUndKehrtZurueck) {
     EXPECT_TRUE(zwei.s->AktSpieler == 2 && zwei.s->Jahr == 2000);
     EXPECT_EQ(zwei.textBei(50, 600), "Weiter zum nächsten Jahr   ");
     EXPECT_EQ(zwei.textBei(30, 28), "Spieler  Spieler2          ");
-
     // A: skip 3 years; the cursor stays on the item; W ends the turn, 4 years run.
     Runde r("key A\nkey ENTER\nkey 3\nkey ENTER\nkey ENTER\nkey ESC\nkey W\nkey ENTER");
     r.spielen();
     EXPECT_TRUE(r.s->Jahr == 2004 && r.s->AussetzenJahre == 0 && r.s->AktSpieler == 1 && r.gedruckt("Wie oft?"));
     EXPECT_EQ(r.textBei(30, 50), "RUNDE   2004") << "the year line of the year processing stays";
     EXPECT_EQ(r.textBei(50, 600), "Weiter zum nächsten Jahr   ") << "the loop waits on the first item again";
-
     // Dialogs that end at once leave the cursor on their item; Esc leaves the status, then the menu.
     Runde k("key R\nkey ENTER\nkey D\nkey ENTER\nkey ESC\nkey V\nkey ENTER\nkey U\nkey ENTER");
     k.spielen();
@@ -72,19 +70,16 @@ TEST(Hauptschleife, SpielBeendenDialog) {
     Runde weg("key E\nkey ENTER\nkey ENTER\nkey N\nkey ENTER");
     weg.spielen();
     EXPECT_TRUE(weg.gedruckt("Auf Wiedersehen!") && weg.s->BeendenNachSichern == -1 && weg.gedruckt("music stop"));
-
     // Esc at the first question: the game goes on, cursor back on item 1.
     Runde esc("key E\nkey ENTER\nkey ESC");
     esc.s->BeendenNachSichern = -1;
     esc.spielen();
     EXPECT_EQ(esc.s->BeendenNachSichern, 0);
     EXPECT_EQ(esc.textBei(50, 600), "Weiter zum nächsten Jahr   ");
-
     // Esc at the second: quitting stays wanted, saving not; the game goes on.
     Runde zweite("key E\nkey ENTER\nkey ENTER\nkey ESC");
     zweite.spielen();
     EXPECT_TRUE(zweite.s->BeendenNachSichern == -1 && zweite.s->SichernAmRundenende == 0 && !zweite.gedruckt("Auf Wiedersehen!"));
-
     // I asks for a save at the end of the round; so does closing the window with "yes".
     Runde i("key I\nkey ENTER");
     i.spielen();

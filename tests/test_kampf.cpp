@@ -57,7 +57,6 @@ TEST(Angriff, GegenfeuerNachWaffenabstand) {
         EXPECT_EQ(std::pair(w.s.Schiffe(4).Schaden, w.s.Schiffe(3).Schaden), (std::pair<Integer, Integer>(f.schadenOpfer, f.schadenAngreifer)));
         EXPECT_EQ(Rnd(w.s), NAECHSTE);
     }
-
     // Two that fight each other: one blow each, no answer on top.
     Welt w;
     w.angreifer(3, 1, 25, 5, 4);
@@ -66,7 +65,6 @@ TEST(Angriff, GegenfeuerNachWaffenabstand) {
     ANGRIFFE(w.s);
     EXPECT_EQ(std::pair(w.s.Schiffe(4).Schaden, w.s.Schiffe(3).Schaden), (std::pair<Integer, Integer>(2, 3)));
     EXPECT_EQ(Rnd(w.s), NAECHSTE);
-
     // No victim at all: nobody is hit and nothing is drawn.
     Welt leer;
     leer.angreifer(3, 1, 25, 5, 0);
@@ -88,7 +86,6 @@ TEST(Angriff, BerichtFluchtUndHauptquartier) {
     for (int i : {3, 5}) ANGRIFFSBERICHT(w.s, i);
     EXPECT_EQ(w.meldungen(), "FSS 3: Angriff auf SST 4\nFSS 3 meldet Flucht des Opfers\nFSS 5: Angriff auf SST 6\n");
     EXPECT_TRUE(w.s.Schiffe(3).Zustand == ZUSTAND_RUHT && w.s.Schiffe(5).Zustand == ZUSTAND_ANGRIFF);
-
     // The guns: 17 + Int(0.99 x 7) - Int(10 x 0.5 / 2) on a ship of a player
     // that stands there, not on one arriving, not on a pirate.
     Welt f;
@@ -169,7 +166,6 @@ TEST(Piraten, OpferUndHuepfer) {
     PIRATEN_ZIEHEN(w.s);
     EXPECT_EQ(std::pair(p.Zustand, p.Partner), (std::pair<Integer, Integer>(ZUSTAND_ANGRIFF, 4)));
     EXPECT_EQ(Rnd(w.s), NAECHSTE);
-
     // A hop within the system: the draw 2 is its own planet and is drawn
     // again (4: planet 25), then the richest planet wins its draw (28).
     Welt h;
@@ -180,7 +176,6 @@ TEST(Piraten, OpferUndHuepfer) {
     PIRATEN_ZIEHEN(h.s);
     EXPECT_EQ(Weg(q), Flug(h.s, 28, 23));
     EXPECT_EQ(Rnd(h.s), NAECHSTE);
-
     // In a system with four unknown planets the last draw decides alone, and
     // may bring it back where it started.
     Welt u;
@@ -190,7 +185,6 @@ TEST(Piraten, OpferUndHuepfer) {
     PIRATEN_ZIEHEN(u.s);
     EXPECT_EQ(Weg(r), Flug(u.s, 23, 23));
     EXPECT_EQ(Rnd(u.s), NAECHSTE);
-
     // Long hops: near enough (Int(0.3 x 50) + 11 = 26), too far (55 from 15: given up), neither draw.
     Welt l;
     Schiff& a = l.schiff(10, TYP_KREUZER, BESITZER_PIRATEN, 25, 6);
@@ -247,7 +241,6 @@ TEST(Piraten, NeuePiratenDurchDreiTore) {
         if (f.neu) EXPECT_TRUE(neu.Typ == TYP_KREUZER && neu.Name == PIRAT_NAME && neu.Zustand == ZUSTAND_RUHT &&
                                neu.Bewaffnung == 8 && neu.Planet == 21) << f.was;
     }
-
     // Every slot below 1000 taken: none, and nothing above it is touched.
     Welt voll;
     for (int i = 1; i < SCHIFF_GRENZE; ++i) voll.s.Schiffe(i).Name = "x";
@@ -355,7 +348,6 @@ TEST(KampfSzenario, FrachterVerliertAllesUndLaesstDieStation) {
     Schiff& st = SchiffSetzen(s, 8, TYP_STATION, 1, p, 0);
     st.Zustand = ZUSTAND_GEKOPPELT, st.Partner = 1, st.Laderaum = 90;
     SchiffSetzen(s, 2, TYP_KREUZER, BESITZER_PIRATEN, p, 5);
-
     // The load year: the pirate finds the freighter and strikes from the next.
     TreiberLauf lauf = GeladenSpielen(s, "", "frachter0");
     Spiel g = ZustandAus(lauf);

@@ -40,7 +40,6 @@ TEST_F(LeinwandTest, ZellenUndFormen) {
     EXPECT_GT(leuchtendeNurIn(312, 100, 347, 122), 20);
     l->text("WWWW", 20, 1010, 755, 255);
     l->text("WWWW", 20, -30, -10, 255);
-
     // Colours come as blue-green-red; corners in any order; clipped to the canvas.
     l->leeren();
     l->box(9, 9, 0, 0, 255);

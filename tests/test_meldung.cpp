@@ -58,7 +58,6 @@ TEST(Meldung, EineSeiteBisNeunzehnDannSeitenZuSiebzehnImRing) {
     EXPECT_TRUE(b.hinweis()) << "printed behind the rows, so it stays";
     EXPECT_EQ(feld(b, 17), "510,655-990,675 -1 -1");
     for (int r = 18; r <= 20; ++r) EXPECT_EQ(feld(b, r), "0,0-0,0 -1 -1") << r;
-
     // F3 leafs in a ring; 18 lines stay one page whatever the page number; 17 never leave page 1.
     struct Fall { int zeilen, f3, seite, zeile1, zeile6; };
     const Fall faelle[] = {{40, 1, 2, 18, 23}, {40, 2, 3, 35, 40}, {40, 3, 1, 1, 6}, {18, 1, 2, 1, 6}, {17, 1, 1, 1, 6}};

@@ -25,7 +25,6 @@ TEST(NeuesSpiel, FrachterJeSpielerPiratenHauptbildschirmUndDialoggrenzen) {
     EXPECT_EQ(s.Statistik(6, 2), 0) << "the dock counters of row 2 are kept only with one player";
     s = ZustandAus(Treiber(NeuesSpielSkript(1, 300)));
     EXPECT_EQ(s.Bargeld(1) * 10000 + s.Statistik(6, 2), 3001000) << "the gift Frachter stands in the one player's dock payments";
-
     // Esc at the questions asks again; 99999 is cut to 9999, 1000 takes only a 0 more.
     const std::string skript =
         "key SPACE\nwait 200\nkey ESC\nkey ESC\nkey 3\nkey ENTER\nkey ESC\nkey 1\nkey ENTER\nkey ESC\nkey M\nkey ENTER\n"

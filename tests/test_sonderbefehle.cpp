@@ -56,7 +56,6 @@ TEST(Angriff, OpferWaehlenHauptquartierBeenden) {
     Lauf b = Anweisen(s, "key ENTER\n", "beenden");
     EXPECT_EQ(Angriff(b), Paar(ZUSTAND_RUHT, 0));
     b.gedruckt({{50, 660, "Angriff beendet!"}});
-
     // At the headquarters it is the one target, even with a pirate beside it.
     Spiel hq = Mit(TYP_KREUZER, HQ, 0);
     hq.Schiffe(3).Planet = HQ;
@@ -133,7 +132,6 @@ TEST(Sonderbefehle, ReparaturUndGeraete) {
     RndFolge(*leicht.s, {0.99f});
     leicht.laufen([](Spiel& g) { ORDER_REPARATUR(g, 1); });
     EXPECT_EQ(leicht.s->Schiffe(1).Schaden, 0);
-
     // One device a time raises the yield by 4 to 7, held at 30; at 30 it is refused.
     for (const int vorher : {25, 30}) {
         Spiel g = Mit(TYP_FRACHTER, FERN);

@@ -85,7 +85,6 @@ TEST(Spacedocks, VierAuftraegeUndIhreMeldungenImJahrIhresEndes) {
         EXPECT_EQ(g.Statistik(EST_DOCK_LADERAUM + i, 2) - b.Statistik(EST_DOCK_LADERAUM + i, 2), preis[i]);
     }
     EXPECT_EQ(g.Statistik(EST_DOCK_ZAHLUNGEN, 2) - b.Statistik(EST_DOCK_ZAHLUNGEN, 2), 345);
-
     // Each job ends with its own line in the year its countdown runs out.
     const std::string K = std::to_string(k), TK = std::to_string(k + 1), S = std::to_string(k + 2);
     const std::string j1 = GeladenSpielen(s, zug + JAHR, "jahr1").screen;

@@ -62,7 +62,6 @@ TEST(Status, FlotteGefiltertUndNachJederSpalteSortiert) {
     const TreiberLauf lauf = GeladenSpielen(Flotte(), "key S\nkey ENTER\n" + klicks, "flotte");
     const Spiel n = ZustandAus(lauf);
     ASSERT_TRUE(InWerft(n.Schiffe(3)) && n.Schiffe(6).Zustand == ZUSTAND_GEKOPPELT && n.Schiffe(4).Dauer > 2);
-
     // The order by a value, up or down; ties by the lower slot either way.
     auto nach = [&](auto wert, bool ab) {
         std::vector<int> v = {1, 2, 3, 4, 5, 6};
@@ -80,7 +79,6 @@ TEST(Status, FlotteGefiltertUndNachJederSpalteSortiert) {
         nach(feld(&Schiff::Schaden), false), alle, nach(typ, false), nach(typ, true), alle,
         {2, 5} /* the cruisers */, {5, 2} /* by slot, down */, {2, 5} /* Ent: a tie */};
     EXPECT_EQ(Listen(lauf.trace), soll);
-
     // The lines: the colour of the type, the place, the rest of the way (the carrier's for the station).
     const std::string erste = lauf.trace.substr(lauf.trace.find("box 505 285 998 738 0"));
     EXPECT_EQ(Gedruckt(erste, 510, 285).at(0), "16776960 SST   1 Sol III      ---   0  10   0   0");
@@ -148,7 +146,6 @@ TEST(Status, AuswertungUndWeitereInformationenEinesSpielers) {
         "Anzahl verlorener Schiffe:          2", "Anzahl geraubter Waren:            55 t"};
     const int ys[] = {275, 300, 325, 350, 375, 396, 417, 438, 459, 480, 505, 526, 547, 568, 589, 610, 635, 660, 685, 710};
     for (int i = 0; i < 20; ++i) EXPECT_EQ(Gedruckt(dritte, 510, ys[i]), std::vector<std::string>{"255 " + std::string(zeilen[i])});
-
     // PageUp twice: the full list again, on its first page; then sorted by Bew.
     EXPECT_EQ(Listen(lauf.trace), (std::vector<std::vector<int>>{{1, 2, 3, 4, 5, 6}, {1, 4}, {1, 2, 3, 4, 5, 6},
                                                                  {1, 3, 4, 6, 2, 5}}));

@@ -53,7 +53,6 @@ TEST(Spielstand, FesteBytesAnIhrenStellen) {
     const std::vector<uint8_t> b = SPIELSTAND_BYTES(s);
     auto i16 = [&](size_t o) { return static_cast<int16_t>(b.at(o) | b.at(o + 1) << 8); };
     auto i32 = [&](size_t o) { return static_cast<int32_t>(b.at(o) | b.at(o + 1) << 8 | b.at(o + 2) << 16 | b.at(o + 3) << 24); };
-
     // Items 1-5, then the seven names with their lengths: "Anna" and "Piraten".
     const size_t lager = 4 + 4 + 2 + 2 + 2 + 7 * 2 + 4 + 7;
     EXPECT_EQ(i16(14), 4);
@@ -110,7 +109,6 @@ TEST(Treiber, OhneSternlisteUndMusikEineKlareMeldung) {
     EXPECT_NE(lauf.screen.find("Planetenliste.bin"), std::string::npos) << lauf.screen;
     EXPECT_NE(lauf.trace.find("Musik/EinleitungQuorvant.mid' nicht gefunden!"), std::string::npos)
         << "a missing piece costs one message box";
-
     // A star list cut short is refused the same way.
     const std::string kurz = TempOrdner("kurze-liste");
     std::ofstream(kurz + "/Planetenliste.bin", std::ios::binary) << std::string("\x13\x00Sonne", 7);

@@ -109,7 +109,6 @@ TEST(Planetenliste, DieMitgelieferteUndKaputteListen) {
         namen.insert(OhneGross(e.substr(0, 15)));
     }
     EXPECT_EQ(namen.size(), 400u) << "400 names, unique case and umlauts aside";
-
     // A missing list is named; a list cut short or broken is refused through the driver (test_treiber).
     const std::string ordner = TempOrdner("planetenliste");
     EXPECT_FALSE(PLANETENLISTE_LESEN(ordner + "/fehlt.bin", eintraege, fehler));
