@@ -17,18 +17,14 @@ struct Welt {
     Welt() {
         for (int n = 11; n <= 60; ++n) s.Dokument(n).Produktion = 10;
     }
-    Schiff& schiff(int nr, const char* typ, int besitzer, int planet, int waffen = 0) {
-        return SchiffSetzen(s, nr, typ, besitzer, planet, waffen);
-    }
-    Schiff& angreifer(int nr, int besitzer, int planet, int waffen, int opfer) {
-        return Kreuzer(s, nr, besitzer, planet, waffen, opfer);
-    }
-    std::string meldungen() const {
-        std::string r;
-        for (const std::string& z : Meldungen(s)) r += z + "\n";
-        return r;
-    }
 };
+
+// The news, one line each.
+std::string Zeilen(const Spiel& s) {
+    std::string r;
+    for (const std::string& z : Meldungen(s)) r += z + "\n";
+    return r;
+}
 
 constexpr float NAECHSTE = 0.625f;  // a marker draw: what the rule left unused
 
@@ -47,8 +43,8 @@ TEST(Angriff, GegenfeuerNachWaffenabstand) {
     };
     for (const Fall& f : faelle) {
         Welt w;
-        w.angreifer(3, 1, 25, f.angreifer, 4);
-        w.schiff(4, TYP_FRACHTER, 2, 25, f.opfer);
+        Kreuzer(w.s, 3, 1, 25, f.angreifer, 4);
+        SchiffSetzen(w.s, 4, TYP_FRACHTER, 2, 25, f.opfer);
         auto zuege = f.zuege;
         zuege.push_back(NAECHSTE);
         RndFolge(w.s, zuege);
@@ -59,17 +55,17 @@ TEST(Angriff, GegenfeuerNachWaffenabstand) {
     }
     // Two that fight each other: one blow each, no answer on top.
     Welt w;
-    w.angreifer(3, 1, 25, 5, 4);
-    w.angreifer(4, 2, 25, 5, 3);
+    Kreuzer(w.s, 3, 1, 25, 5, 4);
+    Kreuzer(w.s, 4, 2, 25, 5, 3);
     RndFolge(w.s, {0.5f, 0.75f, NAECHSTE});
     ANGRIFFE(w.s);
     EXPECT_EQ(std::pair(w.s.Schiffe(4).Schaden, w.s.Schiffe(3).Schaden), (std::pair<Integer, Integer>(2, 3)));
     EXPECT_EQ(Rnd(w.s), NAECHSTE);
     // No victim at all: nobody is hit and nothing is drawn.
     Welt leer;
-    leer.angreifer(3, 1, 25, 5, 0);
-    leer.angreifer(4, 1, 25, 5, 2000);
-    leer.angreifer(5, 1, 25, 5, -3);
+    Kreuzer(leer.s, 3, 1, 25, 5, 0);
+    Kreuzer(leer.s, 4, 1, 25, 5, 2000);
+    Kreuzer(leer.s, 5, 1, 25, 5, -3);
     RndFolge(leer.s, {NAECHSTE});
     ANGRIFFE(leer.s);
     EXPECT_EQ(Rnd(leer.s), NAECHSTE);
@@ -79,25 +75,25 @@ TEST(Angriff, GegenfeuerNachWaffenabstand) {
 
 TEST(Angriff, BerichtFluchtUndHauptquartier) {
     Welt w;
-    w.angreifer(3, 1, 25, 5, 4);
-    w.schiff(4, TYP_FRACHTER, 2, 26);                // left in the turn
-    w.angreifer(5, 1, 25, 5, 6);
-    w.schiff(6, TYP_FRACHTER, 2, 26).Schaden = 100;  // gone elsewhere, but destroyed
+    Kreuzer(w.s, 3, 1, 25, 5, 4);
+    SchiffSetzen(w.s, 4, TYP_FRACHTER, 2, 26);                // left in the turn
+    Kreuzer(w.s, 5, 1, 25, 5, 6);
+    SchiffSetzen(w.s, 6, TYP_FRACHTER, 2, 26).Schaden = 100;  // gone elsewhere, but destroyed
     for (int i : {3, 5}) ANGRIFFSBERICHT(w.s, i);
-    EXPECT_EQ(w.meldungen(), "FSS 3: Angriff auf SST 4\nFSS 3 meldet Flucht des Opfers\nFSS 5: Angriff auf SST 6\n");
+    EXPECT_EQ(Zeilen(w.s), "FSS 3: Angriff auf SST 4\nFSS 3 meldet Flucht des Opfers\nFSS 5: Angriff auf SST 6\n");
     EXPECT_TRUE(w.s.Schiffe(3).Zustand == ZUSTAND_RUHT && w.s.Schiffe(5).Zustand == ZUSTAND_ANGRIFF);
     // The guns: 17 + Int(0.99 x 7) - Int(10 x 0.5 / 2) on a ship of a player
     // that stands there, not on one arriving, not on a pirate.
     Welt f;
     f.s.Schiffe(PIRATEN_HQ).Planet = 25;
-    f.schiff(3, TYP_KREUZER, 1, 25, 10);
-    f.schiff(4, TYP_FRACHTER, 1, 25).Zustand = ZUSTAND_FLIEGT;
-    f.schiff(5, TYP_KREUZER, BESITZER_PIRATEN, 25, 10);
+    SchiffSetzen(f.s, 3, TYP_KREUZER, 1, 25, 10);
+    SchiffSetzen(f.s, 4, TYP_FRACHTER, 1, 25).Zustand = ZUSTAND_FLIEGT;
+    SchiffSetzen(f.s, 5, TYP_KREUZER, BESITZER_PIRATEN, 25, 10);
     RndFolge(f.s, {0.99f, 0.5f, NAECHSTE});
     for (int i = 3; i <= 5; ++i) HAUPTQUARTIER_FEUER(f.s, i);
     EXPECT_EQ(f.s.Schiffe(3).Schaden, 21);
     EXPECT_EQ(f.s.Schiffe(4).Schaden + f.s.Schiffe(5).Schaden, 0);
-    EXPECT_EQ(f.meldungen(), "Piratenhauptquartier:\n   Angriff auf FSS 3\n");
+    EXPECT_EQ(Zeilen(f.s), "Piratenhauptquartier:\n   Angriff auf FSS 3\n");
     EXPECT_EQ(Rnd(f.s), NAECHSTE);
 }
 
@@ -105,11 +101,11 @@ TEST(Angriff, BerichtFluchtUndHauptquartier) {
 
 TEST(Schaden, VerlusteEinJahrNachDemAnderen) {
     Welt w;
-    Schiff& f = w.schiff(3, TYP_FRACHTER, 1, 25, 2);
+    Schiff& f = SchiffSetzen(w.s, 3, TYP_FRACHTER, 1, 25, 2);
     f.Schaden = 85, f.Laderaum = 50, f.Ladung = 30;
     f.Fracht(1) = 20, f.Fracht(FRACHT_GERAETE) = 5, f.Fracht(FRACHT_REPARATURSET) = 1;
     for (int j = 0; j < 4; ++j) SCHIFF_BESCHAEDIGEN(w.s, 3);
-    EXPECT_EQ(w.meldungen(),
+    EXPECT_EQ(Zeilen(w.s),
               "SST 3 hat die Bewaffnung verloren!\nSST 3 hat den Laderaum verloren!\nSST 3 hat die Ladung verloren!\n");
     EXPECT_TRUE(f.Bewaffnung == 0 && f.Laderaum == 10 && f.Ladung == 0 && f.Fracht(1) == 0 && f.Fracht(FRACHT_GERAETE) == 0);
     EXPECT_EQ(f.Fracht(FRACHT_REPARATURSET), 1) << "the repair set stays aboard";
@@ -124,19 +120,19 @@ TEST(Schaden, VerlusteEinJahrNachDemAnderen) {
     };
     for (const Fall& c : faelle) {
         Welt v;
-        Schiff& sch = v.schiff(4, c.typ, 1, 25, c.waffen);
+        Schiff& sch = SchiffSetzen(v.s, 4, c.typ, 1, 25, c.waffen);
         sch.Schaden = static_cast<Integer>(c.schaden), sch.Laderaum = static_cast<Integer>(c.laderaum);
         sch.Ladung = static_cast<Integer>(c.ladung);
         SCHIFF_BESCHAEDIGEN(v.s, 4);
-        EXPECT_EQ(v.meldungen(), c.meldung) << c.typ << c.schaden;
+        EXPECT_EQ(Zeilen(v.s), c.meldung) << c.typ << c.schaden;
     }
 }
 
 TEST(Schaden, TraegerImFlugNimmtSeineStationMit) {
     Welt w;
-    Schiff& f = w.schiff(10, TYP_FRACHTER, 1, 40);
+    Schiff& f = SchiffSetzen(w.s, 10, TYP_FRACHTER, 1, 40);
     f.Zustand = ZUSTAND_FLIEGT, f.Schaden = 100, f.Partner = 11;
-    Schiff& st = w.schiff(11, TYP_STATION, 1, 40);
+    Schiff& st = SchiffSetzen(w.s, 11, TYP_STATION, 1, 40);
     st.Zustand = ZUSTAND_GEKOPPELT, st.Partner = 10;
     ZERSTOERTE_ENTFERNEN(w.s);
     EXPECT_TRUE(IstFrei(f) && IstFrei(st));
@@ -159,9 +155,9 @@ std::string Flug(const Spiel& s, int nach, int von) {
 TEST(Piraten, OpferUndHuepfer) {
     // A ship at rest is found before any draw; one in flight is safe.
     Welt w;
-    Schiff& p = w.schiff(10, TYP_KREUZER, BESITZER_PIRATEN, 25, 6);
-    w.schiff(3, TYP_FRACHTER, 1, 25).Zustand = ZUSTAND_FLIEGT;
-    w.schiff(4, TYP_SCOUT, 2, 25);
+    Schiff& p = SchiffSetzen(w.s, 10, TYP_KREUZER, BESITZER_PIRATEN, 25, 6);
+    SchiffSetzen(w.s, 3, TYP_FRACHTER, 1, 25).Zustand = ZUSTAND_FLIEGT;
+    SchiffSetzen(w.s, 4, TYP_SCOUT, 2, 25);
     RndFolge(w.s, {NAECHSTE});
     PIRATEN_ZIEHEN(w.s);
     EXPECT_EQ(std::pair(p.Zustand, p.Partner), (std::pair<Integer, Integer>(ZUSTAND_ANGRIFF, 4)));
@@ -169,7 +165,7 @@ TEST(Piraten, OpferUndHuepfer) {
     // A hop within the system: the draw 2 is its own planet and is drawn
     // again (4: planet 25), then the richest planet wins its draw (28).
     Welt h;
-    Schiff& q = h.schiff(10, TYP_KREUZER, BESITZER_PIRATEN, 23, 6);
+    Schiff& q = SchiffSetzen(h.s, 10, TYP_KREUZER, BESITZER_PIRATEN, 23, 6);
     h.s.Dokument(28).Bestand = 5000;
     h.s.Dokument(29).Bestand = 4000;
     RndFolge(h.s, {0.01f, 0.25f, 0.45f, 0.5f, NAECHSTE});
@@ -179,7 +175,7 @@ TEST(Piraten, OpferUndHuepfer) {
     // In a system with four unknown planets the last draw decides alone, and
     // may bring it back where it started.
     Welt u;
-    Schiff& r = u.schiff(10, TYP_KREUZER, BESITZER_PIRATEN, 23, 6);
+    Schiff& r = SchiffSetzen(u.s, 10, TYP_KREUZER, BESITZER_PIRATEN, 23, 6);
     for (int n : {21, 22, 24, 30}) u.s.Dokument(n).Produktion = 0;
     RndFolge(u.s, {0.01f, 0.05f, 0.25f, NAECHSTE});
     PIRATEN_ZIEHEN(u.s);
@@ -187,9 +183,9 @@ TEST(Piraten, OpferUndHuepfer) {
     EXPECT_EQ(Rnd(u.s), NAECHSTE);
     // Long hops: near enough (Int(0.3 x 50) + 11 = 26), too far (55 from 15: given up), neither draw.
     Welt l;
-    Schiff& a = l.schiff(10, TYP_KREUZER, BESITZER_PIRATEN, 25, 6);
-    Schiff& b = l.schiff(11, TYP_KREUZER, BESITZER_PIRATEN, 15, 6);
-    Schiff& c = l.schiff(12, TYP_KREUZER, BESITZER_PIRATEN, 35, 6);
+    Schiff& a = SchiffSetzen(l.s, 10, TYP_KREUZER, BESITZER_PIRATEN, 25, 6);
+    Schiff& b = SchiffSetzen(l.s, 11, TYP_KREUZER, BESITZER_PIRATEN, 15, 6);
+    Schiff& c = SchiffSetzen(l.s, 12, TYP_KREUZER, BESITZER_PIRATEN, 35, 6);
     RndFolge(l.s, {0.5f, 0.95f, 0.3f, 0.5f, 0.95f, 0.89f, 0.5f, 0.5f, NAECHSTE});
     PIRATEN_ZIEHEN(l.s);
     EXPECT_EQ(Weg(a), Flug(l.s, 26, 25));
@@ -203,8 +199,8 @@ TEST(Piraten, FluchtVorEinemStaerkeren) {
     Welt w;
     const int orte[] = {25, 30, 21, 45, 46};
     for (int i = 0; i < 5; ++i) {
-        w.schiff(3 + i, TYP_KREUZER, 1, orte[i], i == 4 ? 5 : 9);
-        w.angreifer(10 + i, BESITZER_PIRATEN, orte[i], 5, 3 + i);
+        SchiffSetzen(w.s, 3 + i, TYP_KREUZER, 1, orte[i], i == 4 ? 5 : 9);
+        Kreuzer(w.s, 10 + i, BESITZER_PIRATEN, orte[i], 5, 3 + i);
     }
     RndFolge(w.s, {0.05f, 0.3f, 0.05f, 0.05f, 0.1f, NAECHSTE});
     PIRATEN_ZIEHEN(w.s);
@@ -228,7 +224,7 @@ TEST(Piraten, NeuePiratenDurchDreiTore) {
     };
     for (const Fall& f : faelle) {
         Welt w;
-        for (int i = 1; i <= f.piraten; ++i) w.schiff(i, TYP_KREUZER, BESITZER_PIRATEN, 11 + i, 6);
+        for (int i = 1; i <= f.piraten; ++i) SchiffSetzen(w.s, i, TYP_KREUZER, BESITZER_PIRATEN, 11 + i, 6);
         w.s.Schiffe(PIRATEN_HQ).Planet = static_cast<Integer>(f.hq);
         auto zuege = f.zuege;
         zuege.push_back(NAECHSTE);
