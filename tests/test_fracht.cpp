@@ -13,10 +13,8 @@ struct Lade : TestSpiel {
         p->spurAufzeichnen(true);
     }
     Schiff& schiff(int nr, const char* typ, int planet = SOL_III, int laderaum = 10, int besitzer = 1) {
-        Schiff& sch = s->Schiffe(nr);
-        sch.Typ = typ, sch.Name = "x", sch.Planet = static_cast<Integer>(planet);
-        sch.Laderaum = static_cast<Integer>(laderaum), sch.Besitzer = static_cast<Integer>(besitzer);
-        sch.Tankgroesse = 30, sch.Treibstoff = 10;
+        Schiff& sch = SchiffSetzen(*s, nr, typ, besitzer, planet);
+        sch.Laderaum = static_cast<Integer>(laderaum), sch.Treibstoff = 10;
         return sch;
     }
     Schiff& operator[](int nr) { return s->Schiffe(nr); }
