@@ -1,8 +1,11 @@
 // A thousand years of the largest world at war, and after every year the
 // tables must still hang together.
+#include <sstream>
 
 #include "../bench/grosse_welt.h"
 #include "hilfe.h"
+#include "state/codes.h"
+#include "year/jahr.h"
 
 namespace {
 

@@ -2,7 +2,10 @@
 // twenty years: goods sold, research paid, years run. It must reach a rank,
 // a medal and an invention, and end exactly in the state kept beside the
 // tests; a difference is named by table, record and field.
+#include <cstdlib>
+#include <fstream>
 
+#include "flow/spielstand.h"
 #include "hilfe.h"
 #include "vergleich.h"
 
