@@ -129,7 +129,7 @@ std::vector<std::string> Meldungen(const Spiel& s);
 std::vector<std::string> Gedruckt(const std::string& spur, int x, int y);
 // The colour of the first screen line that holds the text, -1 if none does.
 long FarbeVon(const TreiberLauf& lauf, const std::string& text);
-constexpr long ROT_WERT = 255, CYAN_WERT = 16776960, GELB_WERT = 65535;
+constexpr long ROT_WERT = 255, CYAN_WERT = 16776960;
 // A picture the driver or a canvas wrote, against the golden one kept beside the
 // tests (a few glyph-edge shades may differ); QUORVANT_GOLDEN_SCHREIBEN=1 keeps
 // the new picture instead.
