@@ -1,15 +1,18 @@
 #include "hilfe.h"
 
+#include <png.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <cstdio>
 #include <filesystem>
 #include <fstream>
+#include <map>
 #include <sstream>
 
 #include "flow/programm.h"
 #include "flow/spielstand.h"
+#include "state/codes.h"
 #include "state/regeln.h"
 #include "state/text.h"
 
@@ -120,3 +123,99 @@ TreiberLauf GeladenSpielen(const Spiel& s, const std::string& weiter, const std:
 
 // The banner takes about three seconds; a key in the scroller ends it.
 std::string LadeSkript() { return "wait 3000\nkey SPACE\nwait 300\nkey N\nkey ENTER\nkey ENTER\n"; }
+
+std::string Klick(int x, int y) { return "click " + std::to_string(x) + " " + std::to_string(y) + "\n"; }
+
+std::string Mal(const std::string& zeile, int n) {
+    std::string r;
+    for (int i = 0; i < n; ++i) r += zeile;
+    return r;
+}
+
+const Spiel& Tafeln() {
+    static const Spiel s = [] {
+        Spiel t;
+        VORBELEGUNG_VARIABLEN(t);
+        return t;
+    }();
+    return s;
+}
+
+Spiel KleineWelt(int spieler) {
+    Spiel s;
+    s.AnzahlSpieler = static_cast<Integer>(spieler);
+    VORBELEGUNG_VARIABLEN(s);
+    s.AnzahlPlaneten = 50, s.HoechstesSchiff = 20, s.MeldungAnzahl = 0;
+    for (int p = 1; p <= spieler; ++p) s.SpielerName(p) = static_cast<char>('A' + p - 1) + std::string("nna"), s.Bargeld(p) = 1000;
+    s.Dokument(3).Name = "Sol ";
+    for (int n = 11; n <= 60; ++n) {
+        Planet& p = s.Dokument(n);
+        p.Name = "Wega ", p.X = static_cast<Integer>(10 * ((n - 1) / 10)), p.Ware = 4;
+    }
+    s.Schiffe(PIRATEN_HQ).Planet = 0;
+    return s;
+}
+
+Schiff& SchiffSetzen(Spiel& s, int nr, const char* typ, int besitzer, int planet, int waffen) {
+    Schiff& sch = s.Schiffe(nr) = Schiff{};
+    sch.Typ = typ, sch.Name = besitzer == BESITZER_PIRATEN ? PIRAT_NAME : "Schiff";
+    sch.Besitzer = static_cast<Integer>(besitzer), sch.Planet = static_cast<Integer>(planet);
+    sch.Bewaffnung = static_cast<Integer>(waffen), sch.Tankgroesse = 30;
+    sch.Treibstoff = besitzer == BESITZER_PIRATEN ? 0 : 30;
+    if (nr > s.HoechstesSchiff && nr < SCHIFF_GRENZE) s.HoechstesSchiff = static_cast<Integer>(nr);
+    return sch;
+}
+
+std::vector<std::string> Meldungen(const Spiel& s) {
+    std::vector<std::string> r;
+    for (int i = 1; i <= s.MeldungAnzahl; ++i) r.push_back(Utf8(s.MeldungText(i)));
+    return r;
+}
+
+std::vector<std::string> Gedruckt(const std::string& spur, int x, int y) {
+    std::vector<std::string> r;
+    std::istringstream ein(spur);
+    const std::string kopf = "print " + std::to_string(x) + " " + std::to_string(y) + " ";
+    for (std::string z; std::getline(ein, z);)
+        if (z.rfind(kopf, 0) == 0) r.push_back(z.substr(z.find(' ', kopf.size()) + 1));
+    return r;
+}
+
+long FarbeVon(const TreiberLauf& lauf, const std::string& text) {
+    const size_t pos = lauf.screen.find(Utf8(T(text)));
+    long farbe = -1;
+    if (pos != std::string::npos)
+        std::sscanf(lauf.screen.c_str() + lauf.screen.rfind('\n', pos) + 1, "text\t%*d\t%*d\t%*d\t%ld", &farbe);
+    return farbe;
+}
+
+void WieGolden(const std::string& png, const std::string& name) {
+    const std::string golden = std::string(QUORVANT_TESTDATEN) + "/golden/" + name + ".png";
+    if (std::getenv("QUORVANT_GOLDEN_SCHREIBEN")) fs::copy_file(png, golden, fs::copy_options::overwrite_existing);
+    std::vector<uint8_t> pix[2];
+    for (int i = 0; i < 2; ++i) {
+        png_image b{};
+        b.version = PNG_IMAGE_VERSION;
+        ASSERT_TRUE(png_image_begin_read_from_file(&b, (i ? golden : png).c_str())) << (i ? golden : png);
+        ASSERT_TRUE(b.width == 1024 && b.height == 768) << name;
+        b.format = PNG_FORMAT_RGB;
+        pix[i].resize(PNG_IMAGE_SIZE(b));
+        ASSERT_TRUE(png_image_finish_read(&b, nullptr, pix[i].data(), 0, nullptr));
+    }
+    int anders = 0, erster = -1;  // pixels with a clear difference in a colour
+    for (size_t i = 0; i < pix[0].size(); i += 3) {
+        bool d = false;
+        for (size_t k = i; k < i + 3; ++k) d = d || std::abs(pix[0][k] - pix[1][k]) > 64;
+        if (d && !anders++) erster = static_cast<int>(i / 3);
+    }
+    EXPECT_LE(anders, 400) << name << ": " << anders << " pixels differ, the first at (" << erster % 1024 << ", "
+                           << erster / 1024 << ")";
+}
+
+Spiel RuhigesSpiel(int spieler, int ereignisJahre) {
+    static std::map<int, Spiel> neu;
+    if (!neu.count(spieler)) neu.emplace(spieler, NeuesSpielZustand(spieler, 5000));
+    Spiel s = neu.at(spieler);
+    for (int e = EREIGNIS_STEUER; e <= EREIGNIS_STREIK; ++e) s.EreignisJahre(e) = static_cast<Integer>(ereignisJahre);
+    return s;
+}

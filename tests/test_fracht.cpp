@@ -1,11 +1,7 @@
 // The cargo orders: loading from stations, equipment and fuel on Sol III,
 // filling tanks, unloading into stations, coupling and uncoupling.
-#include <functional>
 
 #include "hilfe.h"
-#include "orders/fracht.h"
-#include "state/codes.h"
-#include "state/text.h"
 
 namespace {
 
@@ -17,13 +13,13 @@ struct Lade : TestSpiel {
         p->spurAufzeichnen(true);
     }
     Schiff& schiff(int nr, const char* typ, int planet = SOL_III, int laderaum = 10, int besitzer = 1) {
-        Schiff& sch = s->Schiffe(nr);
-        sch.Typ = typ, sch.Name = "x", sch.Planet = static_cast<Integer>(planet);
-        sch.Laderaum = static_cast<Integer>(laderaum), sch.Besitzer = static_cast<Integer>(besitzer);
-        sch.Tankgroesse = 30, sch.Treibstoff = 10;
+        Schiff& sch = SchiffSetzen(*s, nr, typ, besitzer, planet);
+        sch.Laderaum = static_cast<Integer>(laderaum), sch.Treibstoff = 10;
         return sch;
     }
     Schiff& operator[](int nr) { return s->Schiffe(nr); }
+    // Ship 1's cargo and the cash.
+    std::string eins() const;
     std::string kasse() const {
         return std::to_string(s->Bargeld(1)) + " SD, " + std::to_string(s->Lager(WARE_MIRELLEN, 1)) + " t Mirellen";
     }
@@ -45,6 +41,8 @@ std::string Tank(const Schiff& sch) { return std::to_string(static_cast<int>(sch
 std::string Lage(const Schiff& sch) {
     return "Zustand " + std::to_string(sch.Zustand) + " Partner " + std::to_string(sch.Partner) + " Planet " + std::to_string(sch.Planet);
 }
+
+std::string Lade::eins() const { return Ladeliste(s->Schiffe(1)) + " / " + std::to_string(s->Bargeld(1)) + " SD"; }
 
 // Builds the game, runs the order for ship nr with the keys, and hands the game back.
 std::unique_ptr<Lade> Befehl(Ausgang (*befehl)(Spiel&, int), int nr, const std::string& skript,
@@ -70,18 +68,14 @@ TEST(BeladenVonStation, AlleWarenGeraeteUndEineWare) {
     auto a = Befehl(BELADEN_VON_STATION, 1, "key ENTER\nkey UP\nkey ENTER\nkey 5\nkey ENTER", aufbau);
     EXPECT_TRUE(a->gedruckt(50, 660, "Beladen von TSR    :"));
     EXPECT_TRUE(a->gedruckt(50, 690, "   7")) << "the proposal: all goods, the devices stay";
-    EXPECT_EQ(Ladeliste((*a)[1]), "1:2 5:2 20:3 L7");
-    EXPECT_EQ(Ladeliste((*a)[2]), "5:2 24:2 L6");
+    EXPECT_EQ(Ladeliste((*a)[1]) + " | " + Ladeliste((*a)[2]), "1:2 5:2 20:3 L7 | 5:2 24:2 L6");
     EXPECT_EQ(a->s->Bargeld(1), 5000);
-
     // Geräte with 3 t free: one fits, and Enter takes the proposal.
     auto g = Befehl(BELADEN_VON_STATION, 1, "key ENTER\nkey ENTER\nkey ENTER", [&](Lade& l) {
         aufbau(l);
         l[1].Ladung = 7;
     });
-    EXPECT_EQ(Ladeliste((*g)[1]), "1:2 24:1 L9");
-    EXPECT_EQ(Ladeliste((*g)[2]), "5:4 20:3 24:1 L9");
-
+    EXPECT_EQ(Ladeliste((*g)[1]) + " | " + Ladeliste((*g)[2]), "1:2 24:1 L9 | 5:4 20:3 24:1 L9");
     // The goods stand in reverse order behind the first two places: good 20, then good 5.
     auto e = Befehl(BELADEN_VON_STATION, 1, "key ENTER\nkey UP\nkey UP\nkey UP\nkey ENTER\nkey ENTER", aufbau);
     EXPECT_EQ(Ladeliste((*e)[1]), "1:2 5:4 L6");
@@ -97,15 +91,12 @@ TEST(BeladenAusruestung, ReparatursetGeraeteUndPortal) {
     EXPECT_EQ(xxl->ausgang, Ausgang::ZumMenue);
     EXPECT_TRUE(xxl->gedruckt(50, 690, "Kosten: 6000 SD     OK?"));
     EXPECT_TRUE(xxl->gedruckt(50, 690, "Nicht genug Geld vorhanden!")) << "refused after the question";
-    EXPECT_EQ(xxl->s->Bargeld(1), 2000);
-    EXPECT_EQ(Ladeliste((*xxl)[1]), "L0");
+    EXPECT_EQ(xxl->eins(), "L0 / 2000 SD");
 
     auto rep = Befehl(BELADEN_AUSRUESTUNG, 1, "key ENTER\nkey ENTER", [](Lade& l) { l.schiff(1, TYP_FRACHTER); },
                       {ERF_REPARATURSET});
-    EXPECT_EQ(Ladeliste((*rep)[1]), "22:1 L0") << "a repair set takes no room";
-    EXPECT_EQ(rep->s->Bargeld(1), 4000);
+    EXPECT_EQ(rep->eins(), "22:1 L0 / 4000 SD") << "a repair set takes no room";
     EXPECT_EQ(rep->textBei(422, 570), " 4000") << "the cash, its last digit at x 470";
-
     // Devices: room for 3, cash for 2; typing 3 is refused.
     auto geraete = [](const std::string& skript, int ladung) {
         return Befehl(BELADEN_AUSRUESTUNG, 1, skript, [=](Lade& l) {
@@ -115,13 +106,11 @@ TEST(BeladenAusruestung, ReparatursetGeraeteUndPortal) {
     };
     auto g = geraete("key ENTER\nkey ENTER", 3);
     EXPECT_TRUE(g->gedruckt(300, 660, "Kosten: 50SD"));
-    EXPECT_EQ(Ladeliste((*g)[1]), "24:2 L7");
-    EXPECT_EQ(g->s->Bargeld(1), 20);
+    EXPECT_EQ(g->eins(), "24:2 L7 / 20 SD");
     auto g3 = geraete("key ENTER\nkey 3\nkey ENTER", 3);
     EXPECT_TRUE(g3->gedruckt(50, 690, "Nicht genug Geld vorhanden!"));
     EXPECT_EQ(Ladeliste((*g3)[1]), "L3");
     EXPECT_FALSE(geraete("", 9)->gedruckt(50, 660, T("Produktionsgeräte"))) << "1 t free: no device offered";
-
     // The portal: refused before the question without 100000 SD; it fills the hold.
     auto portal = [](const std::string& skript, Long geld) {
         return Befehl(BELADEN_AUSRUESTUNG, 1, skript, [=](Lade& l) {
@@ -134,16 +123,14 @@ TEST(BeladenAusruestung, ReparatursetGeraeteUndPortal) {
     EXPECT_FALSE(arm->gedruckt(50, 690, "Kosten: 100000SD     OK?"));
     auto reich = portal("key ENTER\nkey ENTER", 150000);
     EXPECT_TRUE(reich->gedruckt(50, 690, "Kosten: 100000SD     OK?"));
-    EXPECT_EQ(Ladeliste((*reich)[1]), "25:1 L200");
-    EXPECT_EQ(reich->s->Bargeld(1), 50000);
+    EXPECT_EQ(reich->eins(), "25:1 L200 / 50000 SD");
 }
 
 TEST(BeladenTanker, TankeinheitenReparatursetUndSupersprit) {
     auto tanker = [](const std::string& skript, Long geld, std::initializer_list<int> erfunden = {}, int mirellen = 0) {
         return Befehl(BELADEN_TANKER, 1, skript, [=](Lade& l) {
             l.schiff(1, TYP_TANKER, SOL_III, 60);
-            l.s->Bargeld(1) = geld;
-            l.s->Lager(WARE_MIRELLEN, 1) = static_cast<Integer>(mirellen);
+            l.s->Bargeld(1) = geld, l.s->Lager(WARE_MIRELLEN, 1) = static_cast<Integer>(mirellen);
         }, erfunden);
     };
     auto n = tanker("key ENTER", 5000);
@@ -160,9 +147,7 @@ TEST(BeladenTanker, TankeinheitenReparatursetUndSupersprit) {
     EXPECT_EQ(Ladeliste((*arm)[1]), "L0");
 
     auto rep = tanker("key UP\nkey ENTER", 5000, {ERF_REPARATURSET});
-    EXPECT_EQ(Ladeliste((*rep)[1]), "22:1 L0");
-    EXPECT_EQ(rep->s->Bargeld(1), 4000) << "no question asked";
-
+    EXPECT_EQ(rep->eins(), "22:1 L0 / 4000 SD") << "no question asked";
     // Supersprit: 10 t Mirellen and 60 TE free propose 50; 51 would need 11 t; 6 units cost 2 t.
     auto s50 = tanker("key ENTER\nkey ENTER", 5000, {ERF_SUPERSPRIT}, 10);
     EXPECT_EQ(Ladeliste((*s50)[1]), "23:50 L50");
@@ -175,7 +160,6 @@ TEST(BeladenTanker, TankeinheitenReparatursetUndSupersprit) {
     auto normal = tanker("key DOWN\nkey ENTER\nkey 7\nkey ENTER", 5000, {ERF_SUPERSPRIT});
     EXPECT_TRUE(normal->gedruckt(50, 690, "Wie viele Tankeinheiten? "));
     EXPECT_EQ(Ladeliste((*normal)[1]), "21:7 L7");
-
     // Elsewhere from a station: Supersprit first; fuel in a station is not part of its Ladung.
     auto st = Befehl(BELADEN_TANKER, 1, "key ENTER\nkey 4\nkey ENTER", [](Lade& l) {
         Schiff& t = l.schiff(1, TYP_TANKER, 23);
@@ -184,8 +168,7 @@ TEST(BeladenTanker, TankeinheitenReparatursetUndSupersprit) {
         s2.Fracht(FRACHT_SPRIT) = 5, s2.Fracht(FRACHT_SUPERSPRIT) = 3;
     });
     EXPECT_TRUE(st->gedruckt(300, 660, "   6")) << "the free hold";
-    EXPECT_EQ(Ladeliste((*st)[1]), "21:5 23:3 L8");
-    EXPECT_EQ(Ladeliste((*st)[2]), "21:4 L0");
+    EXPECT_EQ(Ladeliste((*st)[1]) + " | " + Ladeliste((*st)[2]), "21:5 23:3 L8 | 21:4 L0");
 }
 
 TEST(Betanken, AufSolIII) {
@@ -194,8 +177,7 @@ TEST(Betanken, AufSolIII) {
         return Befehl(BETANKEN_SOL, 1, skript, [=](Lade& l) {
             Schiff& f = l.schiff(1, typ);
             f.Treibstoff = tank, f.Supersprit = -1;
-            l.s->Bargeld(1) = geld;
-            l.s->Lager(WARE_MIRELLEN, 1) = static_cast<Integer>(mirellen);
+            l.s->Bargeld(1) = geld, l.s->Lager(WARE_MIRELLEN, 1) = static_cast<Integer>(mirellen);
         }, erfunden);
     };
     auto a = tanken("key ENTER", TYP_FRACHTER, 29, 5000);
@@ -228,7 +210,6 @@ TEST(Betanken, VonDerErstenStationMitTreibstoff) {
     EXPECT_EQ(Tank((*l)[1]), "30 normal");
     EXPECT_EQ((*l)[3].Fracht(FRACHT_SPRIT), 3) << "one unit per filling, however much goes in";
     EXPECT_EQ(l->s->Bargeld(1), 5000) << "no money passes";
-
     // With Supersprit known: a freighter starts on the last kind there, a station on the first.
     auto mit = [](int nr) {
         return Befehl(BETANKEN_STATION, nr, "key ENTER", [](Lade& x) {
@@ -255,13 +236,10 @@ TEST(Entladen, WasNichtPasstBleibtAnBord) {
     auto alle = Befehl(ENTLADEN, 1, "key ENTER\nkey ENTER", aufbau);
     EXPECT_TRUE(alle->gedruckt(50, 630, "Entladen in TSR    :   "));
     EXPECT_TRUE(alle->gedruckt(50, 660, "Welche Waren? (Lagerplatz: 3t)"));
-    EXPECT_EQ(Ladeliste((*alle)[2]), "1:3 L90") << "good 1 first";
-    EXPECT_EQ(Ladeliste((*alle)[1]), "1:2 3:4 24:3 L12");
-
+    EXPECT_EQ(Ladeliste((*alle)[2]) + " | " + Ladeliste((*alle)[1]), "1:3 L90 | 1:2 3:4 24:3 L12") << "good 1 first";
     // Devices: 3 t free take one, the second would need 2 more.
     auto ger = Befehl(ENTLADEN, 1, "key ENTER\nkey UP\nkey UP\nkey UP\nkey ENTER", aufbau);
-    EXPECT_EQ(Ladeliste((*ger)[2]), "24:1 L89");
-    EXPECT_EQ(Ladeliste((*ger)[1]), "1:5 3:4 24:2 L13");
+    EXPECT_EQ(Ladeliste((*ger)[2]) + " | " + Ladeliste((*ger)[1]), "24:1 L89 | 1:5 3:4 24:2 L13");
     EXPECT_EQ(Ladeliste((*Befehl(ENTLADEN, 1, "key ESC", aufbau))[1]), "1:5 3:4 24:3 L15");
 
     auto t = Befehl(ENTLADEN, 1, "key ENTER\nkey 5\nkey ENTER", [](Lade& l) {
@@ -269,8 +247,7 @@ TEST(Entladen, WasNichtPasstBleibtAnBord) {
         tanker.Fracht(FRACHT_SPRIT) = 6, tanker.Fracht(FRACHT_SUPERSPRIT) = 3, tanker.Ladung = 9;
         l.schiff(2, TYP_STATION, 23, 90);
     });
-    EXPECT_EQ(Ladeliste((*t)[2]), "21:2 23:3 L0") << "Supersprit first";
-    EXPECT_EQ(Ladeliste((*t)[1]), "21:4 L4");
+    EXPECT_EQ(Ladeliste((*t)[2]) + " | " + Ladeliste((*t)[1]), "21:2 23:3 L0 | 21:4 L4") << "Supersprit first";
 }
 
 TEST(Koppeln, AnkoppelnUndTrennen) {
@@ -291,7 +268,6 @@ TEST(Koppeln, AnkoppelnUndTrennen) {
     EXPECT_EQ(Lage((*a)[7]), "Zustand 0 Partner 5 Planet 23");
     EXPECT_EQ((*koppeln("key UP\nkey UP\nkey ENTER"))[5].Partner, 4) << "round past the highest slot";
     EXPECT_EQ(Lage((*koppeln("key ESC"))[5]), "Zustand 0 Partner 0 Planet 23");
-
     // Uncoupled where the freighter stands.
     (*a)[7].Planet = 44;
     a->laufen([](Spiel& s) { TRENNEN(s, 5); });

@@ -1,20 +1,6 @@
 // A whole trade through the headless driver, seen in the saved state: fly
 // out, land first, buy with M, fly home, unload, sell; and the storage view.
-#include "flow/spielstand.h"
 #include "hilfe.h"
-#include "state/sterne.h"
-#include "state/text.h"
-#include "views/lagerbestand.h"
-
-namespace {
-
-std::string Mal(const std::string& zeile, int n) {
-    std::string r;
-    for (int i = 0; i < n; ++i) r += zeile;
-    return r;
-}
-
-}  // namespace
 
 TEST(Handel, HinKaufenHeimVerkaufen) {
     const std::string start = NeuesSpielSkript(1, 5000, {"Anna"});
@@ -27,7 +13,6 @@ TEST(Handel, HinKaufenHeimVerkaufen) {
         if (e >= 3 && e <= 14 && e < weg && p != s0.Schiffe(PIRATEN_HQ).Planet) ziel = p, tabs = k, weg = e;
     }
     ASSERT_GT(ziel, 0) << "no star near enough for this seed";
-
     // Out: the order, then one year per distance unit.
     const std::string hin = start + "key R\nkey ENTER\nkey ENTER\nkey ENTER\n" + Mal("key TAB\n", tabs) + "key ENTER\n";
     const Spiel s1 = ZustandAus(Treiber(hin));
@@ -47,7 +32,6 @@ TEST(Handel, HinKaufenHeimVerkaufen) {
     EXPECT_EQ(p.Bestand % 100, 0);
     EXPECT_EQ(p.Preis >= 3 * p.Ware - 2 && p.Preis <= 3 * p.Ware + 3, true);
     EXPECT_NE(l2.screen.find(Utf8(T("Erstlandungsprämie: ")) + std::to_string(2 * weg)), std::string::npos) << l2.screen;
-
     // Buy with M: as much as the stock, the hold and the cash allow.
     const std::string gekauft = gelandet + "key R\nkey ENTER\nkey ENTER\nkey B\nkey ENTER\nkey M\nkey ENTER\n";
     const Spiel s3 = ZustandAus(Treiber(gekauft));
@@ -57,7 +41,6 @@ TEST(Handel, HinKaufenHeimVerkaufen) {
     EXPECT_EQ(s3.Schiffe(1).Ladung, m);
     EXPECT_EQ(s3.Bargeld(1), s2.Bargeld(1) - m * p.Preis);
     EXPECT_EQ(s3.Dokument(ziel).Bestand, p.Bestand - 100 * m);
-
     // Home with the period key, unloaded into the storage on landing.
     const std::string heim = gekauft + "key R\nkey ENTER\nkey ENTER\nkey ENTER\nkey PERIOD\nkey ENTER\n" + Mal("key W\nkey ENTER\n", weg);
     const Spiel s4 = ZustandAus(Treiber(heim));
@@ -65,7 +48,6 @@ TEST(Handel, HinKaufenHeimVerkaufen) {
     EXPECT_EQ(s4.Schiffe(1).Fracht(g), 0);
     EXPECT_EQ(s4.Schiffe(1).Planet, SOL_III);
     EXPECT_GE(s4.Schiffe(1).Treibstoff, 0.0f);
-
     // Sold: cash, storage, statistics, demand and the board.
     const TreiberLauf l5 = Treiber(heim + "key V\nkey ENTER\nkey ENTER\nkey ENTER\n");
     const Spiel s5 = ZustandAus(l5);

@@ -1,7 +1,5 @@
 // The bank and the research money: the dialogs of the main menu and the
 // yearly booking of a debt.
-#include "economy/forschung.h"
-#include "economy/kredit.h"
 #include "hilfe.h"
 
 TEST(Kredit, ImSpielAufnehmenAbzahlenUndJahresbuchung) {
@@ -35,13 +33,8 @@ TEST(Kredit, DialogeMitGrenzenUndAblehnungen) {
     struct Fall {
         void (*dialog)(Spiel&);
         const char* skript;
-        Integer kredit;
-        Long bargeld;
-        Integer kreditDanach;
-        Long bargeldDanach;
-        int y;
-        const char* text;
-        bool allesErfunden = false;
+        Integer kredit; Long bargeld; Integer kreditDanach; Long bargeldDanach;
+        int y; const char* text; bool allesErfunden = false;
     };
     const Fall faelle[] = {
         // At the limit the prompt takes no digit but 0, and nothing is booked.
@@ -57,8 +50,7 @@ TEST(Kredit, DialogeMitGrenzenUndAblehnungen) {
     };
     for (const Fall& f : faelle) {
         TestSpiel t(f.skript);
-        t.s->Kredit(1) = f.kredit;
-        t.s->Bargeld(1) = f.bargeld;
+        t.s->Kredit(1) = f.kredit, t.s->Bargeld(1) = f.bargeld;
         for (int k = 1; k <= 11; ++k) t.s->Forschung(k, 1) = f.allesErfunden ? -1 : 0;
         const Long rest = t.s->ForschungsRest(1);
         EXPECT_TRUE(t.laufen(f.dialog)) << f.skript;

@@ -1,9 +1,5 @@
 // The news frame: one page or pages of 17, F3, the click rows and their links.
 #include "hilfe.h"
-#include "screen/ausgabe.h"
-#include "screen/dialog.h"
-#include "state/text.h"
-#include "year/meldung.h"
 
 namespace {
 
@@ -14,8 +10,7 @@ struct News : TestSpiel {
         s->MeldungAnzahl = static_cast<Integer>(zeilen);
         for (int i = 1; i <= zeilen; ++i) {
             s->MeldungText(i) = "Zeile " + std::to_string(i);
-            s->MeldungFarbe(i) = CYAN;
-            s->MeldungPlanet(i) = -1;
+            s->MeldungFarbe(i) = CYAN, s->MeldungPlanet(i) = -1;
         }
     }
     // Draws the frame, then waits for Enter while F3 may leaf.
@@ -63,7 +58,6 @@ TEST(Meldung, EineSeiteBisNeunzehnDannSeitenZuSiebzehnImRing) {
     EXPECT_TRUE(b.hinweis()) << "printed behind the rows, so it stays";
     EXPECT_EQ(feld(b, 17), "510,655-990,675 -1 -1");
     for (int r = 18; r <= 20; ++r) EXPECT_EQ(feld(b, r), "0,0-0,0 -1 -1") << r;
-
     // F3 leafs in a ring; 18 lines stay one page whatever the page number; 17 never leave page 1.
     struct Fall { int zeilen, f3, seite, zeile1, zeile6; };
     const Fall faelle[] = {{40, 1, 2, 18, 23}, {40, 2, 3, 35, 40}, {40, 3, 1, 1, 6}, {18, 1, 2, 1, 6}, {17, 1, 1, 1, 6}};
@@ -93,24 +87,17 @@ TEST(Meldung, ZeilenVerweisenAufSchiffOderPlanet) {
         n->zeigen();
         return n;
     };
+    // Ship 12; 17 by the order of the codes, not by the place in the line; a scout links on a single
+    // page; no code: the line's planet; a label at the very end has no blank behind it, and as a
+    // code was found, no planet either.
     auto eine = felder(6);
-    auto schiff = [&](int r) { return eine->s->KlickFelder(r).Schiff; };
-    auto planet = [&](int r) { return eine->s->KlickFelder(r).Planet; };
-    EXPECT_EQ(schiff(1), 12);
-    EXPECT_EQ(schiff(2), 17) << "by the order of the codes, not by the place in the line";
-    EXPECT_EQ(schiff(3), 8) << "a scout links on a single page";
-    EXPECT_EQ(planet(3), -1);
-    EXPECT_EQ(schiff(4), -1);
-    EXPECT_EQ(planet(4), 57) << "no code: the line's planet";
-    EXPECT_EQ(schiff(5), 0) << "a label at the very end has no blank behind it";
-    EXPECT_EQ(planet(5), -1) << "a code was found, so no planet either";
-    EXPECT_EQ(schiff(6), 9);
-    EXPECT_EQ(planet(6), -1);
+    std::vector<std::pair<int, int>> links;
+    for (int r = 1; r <= 6; ++r) links.emplace_back(eine->s->KlickFelder(r).Schiff, eine->s->KlickFelder(r).Planet);
+    EXPECT_EQ(links, (std::vector<std::pair<int, int>>{{12, -1}, {17, -1}, {8, -1}, {-1, 57}, {0, -1}, {9, -1}}));
 
     auto seiten = felder(20);
     EXPECT_EQ(seiten->s->KlickFelder(1).Schiff, 12);
-    EXPECT_EQ(seiten->s->KlickFelder(3).Schiff, -1) << "no scout links on a paged list";
-    EXPECT_EQ(seiten->s->KlickFelder(3).Planet, 41);
+    EXPECT_TRUE(seiten->s->KlickFelder(3).Schiff == -1 && seiten->s->KlickFelder(3).Planet == 41) << "no scout links on a paged list";
 }
 
 TEST(Meldung, ZweihundertZeilenDanachEinHinweis) {
@@ -118,13 +105,10 @@ TEST(Meldung, ZweihundertZeilenDanachEinHinweis) {
     Spiel& s = *t.s;
     s.MeldungAnzahl = 0;
     for (int i = 1; i <= 200; ++i) MELDUNG_NEU(s, "Zeile " + std::to_string(i), CYAN, i);
-    EXPECT_EQ(s.MeldungAnzahl, 200);
-    EXPECT_EQ(s.MeldungText(200), "Zeile 200") << "a full table keeps all its lines";
-    EXPECT_EQ(s.MeldungPlanet(200), 200);
+    EXPECT_TRUE(s.MeldungAnzahl == 200 && s.MeldungText(200) == "Zeile 200" && s.MeldungPlanet(200) == 200) << "a full table keeps all";
     for (int i = 201; i <= 250; ++i) MELDUNG_NEU(s, "Zeile " + std::to_string(i), CYAN);
     EXPECT_EQ(s.MeldungAnzahl, 200);
     EXPECT_EQ(s.MeldungText(199), "Zeile 199");
     EXPECT_EQ(s.MeldungText(200), "-- 51 weitere Meldungen fehlen --") << "lines 200 to 250";
-    EXPECT_EQ(s.MeldungFarbe(200), ROT);
-    EXPECT_EQ(s.MeldungPlanet(200), -1);
+    EXPECT_TRUE(s.MeldungFarbe(200) == ROT && s.MeldungPlanet(200) == -1);
 }

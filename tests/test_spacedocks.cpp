@@ -1,36 +1,21 @@
 // The spacedocks: each type built through the driver until the docks are
 // full, four jobs with the news of the year each ends, what the inventions
 // open, the money checks, the Flopse slow-down and the one-player counters.
-#include <functional>
 
-#include "economy/spacedocks.h"
 #include "hilfe.h"
-#include "state/codes.h"
 
 namespace {
 
-std::string Mal(const std::string& zeile, int n) {
-    std::string r;
-    for (int i = 0; i < n; ++i) r += zeile;
-    return r;
-}
 const std::string DOCKS = "key D\nkey ENTER\n", JAHR = "key W\nkey ENTER\n";
 bool Hat(const std::string& text, const std::string& teil) { return text.find(teil) != std::string::npos; }
 
 // A finished ship of Anna's at rest on Sol III.
-Schiff& Heim(Spiel& s, int n, const char* typ) {
-    Schiff& sch = s.Schiffe(n) = Schiff{};
-    sch.Typ = typ, sch.Name = "x", sch.Besitzer = 1, sch.Planet = SOL_III, sch.Tankgroesse = 30;
-    s.HoechstesSchiff = std::max<Integer>(s.HoechstesSchiff, static_cast<Integer>(n));
-    return sch;
-}
+Schiff& Heim(Spiel& s, int n, const char* typ) { return SchiffSetzen(s, n, typ, 1, SOL_III); }
 
 // Anna's new game, prepared for the driver: money, and no event due soon.
 Spiel Vorbereitet(Long bargeld) {
-    Spiel s = NeuesSpielZustand(1, 5000);
-    s.SpielerName(1) = "Anna";
-    s.Bargeld(1) = bargeld;
-    for (int e = 1; e <= 5; ++e) s.EreignisJahre(e) = 50;
+    Spiel s = RuhigesSpiel(1, 50);
+    s.SpielerName(1) = "Anna", s.Bargeld(1) = bargeld;
     return s;
 }
 
@@ -100,7 +85,6 @@ TEST(Spacedocks, VierAuftraegeUndIhreMeldungenImJahrIhresEndes) {
         EXPECT_EQ(g.Statistik(EST_DOCK_LADERAUM + i, 2) - b.Statistik(EST_DOCK_LADERAUM + i, 2), preis[i]);
     }
     EXPECT_EQ(g.Statistik(EST_DOCK_ZAHLUNGEN, 2) - b.Statistik(EST_DOCK_ZAHLUNGEN, 2), 345);
-
     // Each job ends with its own line in the year its countdown runs out.
     const std::string K = std::to_string(k), TK = std::to_string(k + 1), S = std::to_string(k + 2);
     const std::string j1 = GeladenSpielen(s, zug + JAHR, "jahr1").screen;

@@ -2,12 +2,7 @@
 // player reads why, the new-game dialog follows, and the file stays as it was.
 #include <unistd.h>
 
-#include <filesystem>
-#include <fstream>
-
-#include "flow/spielstand.h"
 #include "hilfe.h"
-#include "state/text.h"
 
 namespace {
 

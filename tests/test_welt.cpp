@@ -1,15 +1,7 @@
 // The world of a new game: the generator, the rule tables, the star list,
 // the galaxy and the measure of distance.
-#include <cmath>
-#include <filesystem>
-#include <fstream>
-#include <set>
 
 #include "hilfe.h"
-#include "state/regeln.h"
-#include "state/sterne.h"
-#include "state/text.h"
-#include "state/zufall.h"
 
 namespace {
 
@@ -17,20 +9,8 @@ const float GROESSTER_ZUG = std::nextafter(1.0f, 0.0f);  // 1 - 2^-24
 
 std::unique_ptr<Spiel> NeuesSpiel(int planeten = 0) {
     auto s = std::make_unique<Spiel>();
-    s->ProgrammVerzeichnis = QUORVANT_DATEN_STANDARD;
-    s->AnzahlPlaneten = static_cast<Integer>(planeten);
+    s->ProgrammVerzeichnis = QUORVANT_DATEN_STANDARD, s->AnzahlPlaneten = static_cast<Integer>(planeten);
     return s;
-}
-
-// One entry of the star list as the file holds it, and a list written as the file holds it.
-std::string Eintrag(std::string name, int abstand) {
-    name.resize(15, ' ');
-    const std::string zahl = std::to_string(abstand);
-    return name + std::string(4 - zahl.size(), ' ') + zahl;
-}
-void ListeSchreiben(const std::string& pfad, const std::vector<std::string>& eintraege) {
-    std::ofstream aus(pfad, std::ios::binary);
-    for (const std::string& e : eintraege) aus << static_cast<char>(e.size() & 0xFF) << static_cast<char>(e.size() >> 8) << e;
 }
 
 // Names as the sorted star list compares them: without case, umlauts as their plain letters.
@@ -86,19 +66,8 @@ TEST(Regeln, TexteMitIhrenBlanksUndZiehungen) {
     EXPECT_EQ(s->ForschungsKosten(12), 0);
     EXPECT_EQ(s->ForschungsRest(1), 8000) << "the cheapest of the first five";
     EXPECT_EQ(s->ForschungsRest(2), 0) << "only players in the game";
-    // Texts overprint what stood before: their widths matter.
-    std::string tasten;
-    for (int i = 1; i <= 12; ++i) {
-        EXPECT_EQ(s->MenueText(i).size(), 27u) << "menu entry " << i;
-        tasten += s->MenueTasten(i);
-    }
-    EXPECT_EQ(tasten, "WRDVLFKSUAIE");
-    EXPECT_EQ(s->SchiffKlasse(1), "Frachter   ");
-    for (int i = 2; i <= 6; ++i) EXPECT_EQ(s->SchiffKlasse(i).size(), 12u) << "ship type " << i;
-    for (int i = 1; i <= 5; ++i) EXPECT_EQ(s->DockAuftrag(i).size(), 20u) << "dock job " << i;
-    EXPECT_TRUE(s->Jahr == 2000 && s->MausSchiff == -1 && s->SpielerName(7) == "Piraten" && s->AuswahlTasten.at(1) == "*");
+    EXPECT_TRUE(s->Jahr == 2000 && s->MausSchiff == -1 && s->SpielerName(7) == "Piraten");
     EXPECT_EQ(s->MeldungText(1), "    -- keine aktuellen Meldungen --    ");
-    EXPECT_EQ(s->RoemZahl(0), "X");
 }
 
 TEST(Entfernung, RundungOffsetsUndUntergrenze) {
@@ -140,30 +109,13 @@ TEST(Planetenliste, DieMitgelieferteUndKaputteListen) {
         namen.insert(OhneGross(e.substr(0, 15)));
     }
     EXPECT_EQ(namen.size(), 400u) << "400 names, unique case and umlauts aside";
-
+    // A missing list is named; a list cut short or broken is refused through the driver (test_treiber).
     const std::string ordner = TempOrdner("planetenliste");
     EXPECT_FALSE(PLANETENLISTE_LESEN(ordner + "/fehlt.bin", eintraege, fehler));
     EXPECT_EQ(fehler, "Die Datei 'Planetenliste.bin' fehlt: " + ordner + "/fehlt.bin");
-    std::vector<std::string> liste;
-    for (int i = 0; i < 400; ++i) liste.push_back(Eintrag("Stern" + std::to_string(i), 10 + i % 140));
-    auto gut = [&](const std::vector<std::string>& l, size_t abschneiden) {
-        const std::string pfad = ordner + "/l.bin";
-        ListeSchreiben(pfad, l);
-        std::filesystem::resize_file(pfad, std::filesystem::file_size(pfad) - abschneiden);
-        fehler.clear();
-        const bool ja = PLANETENLISTE_LESEN(pfad, eintraege, fehler);
-        EXPECT_EQ(fehler, ja ? "" : T("Die Datei 'Planetenliste.bin' ist beschädigt oder zu kurz."));
-        return ja;
-    };
-    EXPECT_FALSE(gut(std::vector<std::string>(liste.begin(), liste.begin() + 399), 0));
-    EXPECT_FALSE(gut({}, 0));
-    EXPECT_FALSE(gut(liste, 5));
-    EXPECT_FALSE(gut(liste, 20));
-    liste[123] = "Kurz";
-    EXPECT_FALSE(gut(liste, 0));
-    liste[123] = Eintrag("Wieder gut", 50);
-    EXPECT_TRUE(gut(liste, 0));
-    EXPECT_EQ(eintraege[123], Eintrag("Wieder gut", 50));
+    std::ofstream(ordner + "/kurz.bin", std::ios::binary) << std::string("\x04\x00Kurz", 6);
+    EXPECT_FALSE(PLANETENLISTE_LESEN(ordner + "/kurz.bin", eintraege, fehler));
+    EXPECT_EQ(fehler, T("Die Datei 'Planetenliste.bin' ist beschädigt oder zu kurz."));
 }
 
 TEST(SterneNeu, WarenNachAbstandVonSol) {
@@ -176,76 +128,30 @@ TEST(SterneNeu, WarenNachAbstandVonSol) {
 }
 
 TEST(SterneNeu, SpielgroessenUndSaaten) {
-    for (int n : {50, 400}) {
-        for (uint32_t saat : {1u, 4294967295u}) {
-            SCOPED_TRACE("N " + std::to_string(n) + ", seed " + std::to_string(saat));
-            auto sp = NeuesSpiel(10 * n);
-            Spiel& s = *sp;
-            Randomize(s, saat);
-            ASSERT_TRUE(STERNE_NEU(s));
-            EXPECT_EQ(s.Dokument(3).Name, "Sol ");
-            for (int sys = 1; sys <= n; ++sys) {
-                const Planet& stern = s.Dokument(10 * sys + 1);
-                // one trailing blank, none when the name fills 15 columns; sorted without case
-                const bool fuenfzehn = stern.Name.size() == 15 && stern.Name.back() != ' ';
-                EXPECT_TRUE(fuenfzehn || (stern.Name.back() == ' ' && stern.Name[stern.Name.size() - 2] != ' ')) << stern.Name;
-                EXPECT_LE(OhneGross(s.Dokument(std::max(11, 10 * sys - 9)).Name), OhneGross(stern.Name));
-                for (int t = 1; t < sys; ++t) {
-                    const int dx = stern.X - s.Dokument(10 * t + 1).X, dy = stern.Y - s.Dokument(10 * t + 1).Y;
-                    ASSERT_GE(dx * dx + dy * dy, 7) << stern.Name;
-                }
-                for (int k = 2; k <= 10; ++k) {
-                    const Planet& p = s.Dokument(10 * sys + k);
-                    EXPECT_TRUE(p.Name == stern.Name && p.X == stern.X && p.Y == stern.Y && p.Ware == stern.Ware &&
-                                p.Produktion == 0 && p.Preis == 0 && p.Abstand >= -2 && p.Abstand <= 2);
-                }
+    // The smallest and the largest size, with the extreme seeds.
+    for (const auto& [n, saat] : {std::pair(50, 1u), std::pair(400, 4294967295u)}) {
+        SCOPED_TRACE("N " + std::to_string(n) + ", seed " + std::to_string(saat));
+        auto sp = NeuesSpiel(10 * n);
+        Spiel& s = *sp;
+        Randomize(s, saat);
+        ASSERT_TRUE(STERNE_NEU(s));
+        EXPECT_EQ(s.Dokument(3).Name, "Sol ");
+        for (int sys = 1; sys <= n; ++sys) {
+            const Planet& stern = s.Dokument(10 * sys + 1);
+            // one trailing blank, none when the name fills 15 columns; sorted without case
+            const bool fuenfzehn = stern.Name.size() == 15 && stern.Name.back() != ' ';
+            EXPECT_TRUE(fuenfzehn || (stern.Name.back() == ' ' && stern.Name[stern.Name.size() - 2] != ' ')) << stern.Name;
+            EXPECT_LE(OhneGross(s.Dokument(std::max(11, 10 * sys - 9)).Name), OhneGross(stern.Name));
+            for (int t = 1; t < sys; ++t) {
+                const int dx = stern.X - s.Dokument(10 * t + 1).X, dy = stern.Y - s.Dokument(10 * t + 1).Y;
+                ASSERT_GE(dx * dx + dy * dy, 7) << stern.Name;
             }
-            EXPECT_GE(s.Schiffe(PIRATEN_HQ).Planet, 11) << "each size holds stars far enough for the pirates";
+            for (int k = 2; k <= 10; ++k) {
+                const Planet& p = s.Dokument(10 * sys + k);
+                EXPECT_TRUE(p.Name == stern.Name && p.X == stern.X && p.Y == stern.Y && p.Ware == stern.Ware &&
+                            p.Produktion == 0 && p.Preis == 0 && p.Abstand >= -2 && p.Abstand <= 2);
+            }
         }
+        EXPECT_GE(s.Schiffe(PIRATEN_HQ).Planet, 11) << "each size holds stars far enough for the pirates";
     }
-    auto a = NeuesSpiel(1000), b = NeuesSpiel(1000);
-    Randomize(*a, 31337), Randomize(*b, 31337);
-    ASSERT_TRUE(STERNE_NEU(*a) && STERNE_NEU(*b));
-    EXPECT_TRUE(a->Dokument == b->Dokument) << "the same seed, the same galaxy";
-}
-
-// Ten stars on rings six units apart, so that every angle fits and the draws can be counted.
-TEST(SterneNeu, ZiehungenInIhrerReihenfolge) {
-    const std::string ordner = TempOrdner("zehn-sterne");
-    const int abstaende[10] = {40, 46, 52, 58, 64, 70, 76, 82, 88, 100};
-    std::vector<std::string> liste;
-    for (int i = 0; i < 400; ++i)
-        liste.push_back(i < 10 ? Eintrag(std::string("Stern ") + static_cast<char>('A' + i), abstaende[i]) : Eintrag("Rest " + std::to_string(i), 50));
-    ListeSchreiben(ordner + "/Planetenliste.bin", liste);
-    auto galaxie = [&](int hqZug) {
-        auto s = NeuesSpiel(100);
-        s->ProgrammVerzeichnis = ordner;
-        std::vector<float> z = {0.5f};                              // Zufallswert
-        for (int i = 0; i < 10; ++i) z.push_back(i / 16.0f);        // angles
-        for (int i = 0; i < 10; ++i) z.push_back(GROESSTER_ZUG);    // goods: the last column
-        z.insert(z.end(), {0.9f, 0.5f, 0, 0, 0, 0});                // component 1: planet 101 too far, then 61; 2-5: 11
-        for (int i = 0; i < 6; ++i) z.push_back(0.25f);             // merchants: planet 36
-        for (int i = 1; i <= std::min(hqZug, 1000); ++i) z.push_back(i == hqZug ? 0.95f : 0.0f);  // the headquarters
-        for (int p = 0; p < 100; ++p) z.push_back(static_cast<float>(p % 5) / 5.0f);              // offsets -2..2
-        RndFolge(*s, z);
-        EXPECT_TRUE(STERNE_NEU(*s));
-        EXPECT_TRUE(s->zufall.folge.empty()) << "every fed draw taken";
-        for (int p = 11; p <= 110; ++p) EXPECT_EQ(s->Dokument(p).Abstand, (p - 11) % 5 - 2) << p;
-        return s;
-    };
-    auto s = galaxie(999);
-    EXPECT_EQ(s->Zufallswert, 0.5f);
-    for (int sys = 1; sys <= 10; ++sys) {
-        const Planet& p = s->Dokument(10 * sys + 1);
-        const float a = static_cast<float>(sys - 1) / 16.0f * 10000.0f, r = static_cast<float>(abstaende[sys - 1]);
-        EXPECT_EQ(p.X, static_cast<int>(std::floor(r * std::cos(a))));
-        EXPECT_EQ(p.Y, static_cast<int>(std::floor(r * std::sin(a))));
-        EXPECT_EQ(p.Ware, WARE_FUER_STERN(abstaende[sys - 1], GROESSTER_ZUG));
-    }
-    EXPECT_EQ(s->KomponentenPlanet(1), 61);
-    EXPECT_EQ(s->KomponentenPlanet(5), 11);
-    EXPECT_EQ(s->Schiffe(HAENDLER_ERSTES).Planet, 36);
-    EXPECT_EQ(s->Schiffe(HAENDLER_LETZTES).Planet, 36);
-    EXPECT_EQ(s->Schiffe(PIRATEN_HQ).Planet, 106) << "found at the 999th draw";
-    EXPECT_EQ(galaxie(1000)->Schiffe(PIRATEN_HQ).Planet, 0) << "the 1000th draw ends the search, whatever it gave";
 }

@@ -30,64 +30,32 @@ struct Vergleich {
 
 }  // namespace
 
-std::string ERSTER_UNTERSCHIED(const Spiel& a, const Spiel& b) {
+// Each saved field by its name: F for a value, T for a table, T2 for a table of two indices.
+#define F(x) v.feld(n + #x, a.x, b.x)
+#define T1(x) v.tabelle(n + #x, a.x, b.x)
+#define T2(x) v.tabelle2(n + #x, a.x, b.x)
+
+std::string ERSTER_UNTERSCHIED(const Spiel& ist, const Spiel& soll) {
     Vergleich v;
-    v.feld("Jahr", a.Jahr, b.Jahr);
-    v.feld("AnzahlSpieler", a.AnzahlSpieler, b.AnzahlSpieler);
-    v.feld("AnzahlPlaneten", a.AnzahlPlaneten, b.AnzahlPlaneten);
-    v.feld("HoechstesSchiff", a.HoechstesSchiff, b.HoechstesSchiff);
-    v.feld("Nachfrage", a.Nachfrage, b.Nachfrage);
-    v.feld("Zeitlimit", a.Zeitlimit, b.Zeitlimit);
-    v.feld("Komponenten", a.Komponenten, b.Komponenten);
-    v.tabelle("SpielerName", a.SpielerName, b.SpielerName);
-    v.tabelle("Bargeld", a.Bargeld, b.Bargeld);
-    v.tabelle("Kredit", a.Kredit, b.Kredit);
-    v.tabelle("Rang", a.Rang, b.Rang);
-    v.tabelle("Medaille", a.Medaille, b.Medaille);
-    v.tabelle("ForschungsRest", a.ForschungsRest, b.ForschungsRest);
-    v.tabelle2("Forschung", a.Forschung, b.Forschung);
-    v.tabelle2("Statistik", a.Statistik, b.Statistik);
-    v.tabelle2("Lager", a.Lager, b.Lager);
-    v.tabelle2("DockSchiffe", a.DockSchiffe, b.DockSchiffe);
-    v.tabelle("Preis", a.Preis, b.Preis);
-    v.tabelle("AltPreis", a.AltPreis, b.AltPreis);
-    v.tabelle("Bedarf", a.Bedarf, b.Bedarf);
-    v.tabelle("KomponentenPlanet", a.KomponentenPlanet, b.KomponentenPlanet);
-    v.tabelle("EreignisJahre", a.EreignisJahre, b.EreignisJahre);
-    v.tabelle("ForschungsKosten", a.ForschungsKosten, b.ForschungsKosten);
+    {
+        const Spiel &a = ist, &b = soll;
+        const std::string n;
+        F(Jahr), F(AnzahlSpieler), F(AnzahlPlaneten), F(HoechstesSchiff), F(Nachfrage), F(Zeitlimit), F(Komponenten);
+        T1(SpielerName), T1(Bargeld), T1(Kredit), T1(Rang), T1(Medaille), T1(ForschungsRest);
+        T2(Forschung), T2(Statistik), T2(Lager), T2(DockSchiffe);
+        T1(Preis), T1(AltPreis), T1(Bedarf), T1(KomponentenPlanet), T1(EreignisJahre), T1(ForschungsKosten);
+    }
     for (int i = 1; i <= MAX_SCHIFFE && v.erster.empty(); ++i) {
-        const Schiff &x = a.Schiffe(i), &y = b.Schiffe(i);
+        const Schiff &a = ist.Schiffe(i), &b = soll.Schiffe(i);
         const std::string n = "Schiffe(" + std::to_string(i) + ").";
-        v.feld(n + "Typ", x.Typ, y.Typ);
-        v.feld(n + "Name", x.Name, y.Name);
-        v.feld(n + "Besitzer", x.Besitzer, y.Besitzer);
-        v.feld(n + "Zustand", x.Zustand, y.Zustand);
-        v.feld(n + "Planet", x.Planet, y.Planet);
-        v.feld(n + "StartPlanet", x.StartPlanet, y.StartPlanet);
-        v.feld(n + "Dauer", x.Dauer, y.Dauer);
-        v.feld(n + "Partner", x.Partner, y.Partner);
-        v.feld(n + "Bewaffnung", x.Bewaffnung, y.Bewaffnung);
-        v.feld(n + "Treibstoff", x.Treibstoff, y.Treibstoff);
-        v.feld(n + "Tankgroesse", x.Tankgroesse, y.Tankgroesse);
-        v.feld(n + "Schaden", x.Schaden, y.Schaden);
-        v.feld(n + "Ladung", x.Ladung, y.Ladung);
-        v.feld(n + "Laderaum", x.Laderaum, y.Laderaum);
-        v.feld(n + "Supersprit", x.Supersprit, y.Supersprit);
-        v.tabelle(n + "Fracht", x.Fracht, y.Fracht);
+        F(Typ), F(Name), F(Besitzer), F(Zustand), F(Planet), F(StartPlanet), F(Dauer), F(Partner), F(Bewaffnung);
+        F(Treibstoff), F(Tankgroesse), F(Schaden), F(Ladung), F(Laderaum), F(Supersprit), T1(Fracht);
     }
     for (int i = 1; i <= MAX_PLANETEN && v.erster.empty(); ++i) {
-        const Planet &x = a.Dokument(i), &y = b.Dokument(i);
+        const Planet &a = ist.Dokument(i), &b = soll.Dokument(i);
         const std::string n = "Dokument(" + std::to_string(i) + ").";
-        v.feld(n + "Name", x.Name, y.Name);
-        v.feld(n + "Abstand", x.Abstand, y.Abstand);
-        v.feld(n + "X", x.X, y.X);
-        v.feld(n + "Y", x.Y, y.Y);
-        v.feld(n + "Bestand", x.Bestand, y.Bestand);
-        v.feld(n + "Produktion", x.Produktion, y.Produktion);
-        v.feld(n + "Ware", x.Ware, y.Ware);
-        v.feld(n + "Preis", x.Preis, y.Preis);
-        v.feld(n + "Portal", x.Portal, y.Portal);
+        F(Name), F(Abstand), F(X), F(Y), F(Bestand), F(Produktion), F(Ware), F(Preis), F(Portal);
     }
-    v.feld("Zufallswert", a.Zufallswert, b.Zufallswert);
+    v.feld("Zufallswert", ist.Zufallswert, soll.Zufallswert);
     return v.erster;
 }
