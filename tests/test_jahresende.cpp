@@ -190,7 +190,9 @@ TEST(JahresendeSzenario, MedailleDurchVerkauf) {
         EXPECT_EQ(g.Medaille(1), verliehen ? 1 : 0);
         const Zeilen news = NewsAb(lauf, "65535\tDie Gilde verleiht Spieler1 die ");
         EXPECT_EQ(news.empty(), !verliehen) << lauf.screen;
-        if (verliehen) EXPECT_EQ(news.at(1), "65535\tVersorgungsmedaille in Bronze!");
+        if (verliehen) {
+            EXPECT_EQ(news.at(1), "65535\tVersorgungsmedaille in Bronze!");
+        }
         EXPECT_EQ(lauf.trace.find("OrdenQuorvant.mid") != std::string::npos, verliehen);
     }
 }

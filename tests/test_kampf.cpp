@@ -234,8 +234,10 @@ TEST(Piraten, NeuePiratenDurchDreiTore) {
         const Schiff& neu = w.s.Schiffe(f.piraten + 1);
         EXPECT_EQ(IstPirat(neu), f.neu) << f.was;
         // Guns Int(0.5 x 9) + 4, planet Int(0.2 x 50) + 11.
-        if (f.neu) EXPECT_TRUE(neu.Typ == TYP_KREUZER && neu.Name == PIRAT_NAME && neu.Zustand == ZUSTAND_RUHT &&
-                               neu.Bewaffnung == 8 && neu.Planet == 21) << f.was;
+        if (f.neu) {
+            EXPECT_TRUE(neu.Typ == TYP_KREUZER && neu.Name == PIRAT_NAME && neu.Zustand == ZUSTAND_RUHT &&
+                        neu.Bewaffnung == 8 && neu.Planet == 21) << f.was;
+        }
     }
     // Every slot below 1000 taken: none, and nothing above it is touched.
     Welt voll;
@@ -385,7 +387,9 @@ TEST(KampfSzenario, PiratUeberfaelltBeiAnkunft) {
     EXPECT_EQ(g.Statistik(EST_GERAUBT, 2), 23);
     // What grows while it stays is safe from it.
     const Spiel h = ZustandAus(GeladenSpielen(g, "", "ueberfall2"));
-    if (h.Schiffe(2).Planet == p) EXPECT_EQ(h.Dokument(p).Bestand, 10);
+    if (h.Schiffe(2).Planet == p) {
+        EXPECT_EQ(h.Dokument(p).Bestand, 10);
+    }
 }
 
 TEST(KampfSzenario, AngriffAufNichtsEndetOhneAbsturz) {

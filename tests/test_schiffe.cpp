@@ -122,7 +122,7 @@ TEST(SchiffAnzeigen, LadungReiseKopplungUndSchaden) {
     t.laufen([](Spiel& sp) { SCHIFF_ANZEIGEN(sp, 1); });
     std::string b = t.bildschirm();
     // Devices first, then the goods; a row holds 40 tonnes.
-    for (const std::string bild : {Utf8(T("50\t350\tGeräte")), std::string("70\t350\tG-Stahl"), std::string("80\t350\tG-Stahl"),
+    for (const std::string& bild : {Utf8(T("50\t350\tGeräte")), std::string("70\t350\tG-Stahl"), std::string("80\t350\tG-Stahl"),
                                    std::string("50\t370\tLeer")})
         EXPECT_NE(b.find("picture\t" + bild), std::string::npos) << bild;
     f.Partner = 5;
