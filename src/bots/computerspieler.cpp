@@ -201,7 +201,7 @@ int COMPUTERSPIEL(const BotAuftrag& a, const std::string& daten, HeadlessPlattfo
 
     Computerspieler bot(s, p, a);
     aktiverSpieler = &bot;
-    NACH_DEM_JAHR = [](Spiel&) { aktiverSpieler->jahrBeendet(); };
+    s.haken.NachDemJahr = [](Spiel&) { aktiverSpieler->jahrBeendet(); };
     std::string fehler;
     p.skriptLaden(bot.startSkript(), fehler);
     p.nachschubSetzen([&bot] { return bot.eingabe(); });
@@ -212,7 +212,7 @@ int COMPUTERSPIEL(const BotAuftrag& a, const std::string& daten, HeadlessPlattfo
     int status = PROGRAMM_AUSFUEHREN(s, p);
     const double sek = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
     p.nachschubSetzen(nullptr);
-    NACH_DEM_JAHR = nullptr;
+    s.haken.NachDemJahr = nullptr;
     aktiverSpieler = nullptr;
     std::error_code ec;
     fs::remove_all(ordner, ec);

@@ -79,6 +79,7 @@ struct Haken {
     void (*MeldungenZeigen)(Spiel&) = nullptr;     // F3: the news, page by page
     void (*Beenden)(Spiel&, int) = nullptr;        // the window closes: the program ends
     void (*Sichern)(Spiel&) = nullptr;             // the save ordered for the start of a year
+    void (*NachDemJahr)(Spiel&) = nullptr;         // a year is done (the computer players watch it)
 };
 
 struct Spiel {

@@ -3,9 +3,6 @@
 #include "state/spiel.h"
 
 void RUNDE_AUSFUEHREN(Spiel& s);
-// Called behind every year's processing when set: watchers of long runs
-// (the headless driver's computer players) look at the tables there.
-extern void (*NACH_DEM_JAHR)(Spiel&);
 
 void PLANETEN_PRODUKTION(Spiel& s);
 void SCHIFF_FLUG(Spiel& s, int schiff);

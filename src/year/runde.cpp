@@ -10,7 +10,6 @@
 #include "year/meldung.h"
 #include "state/codes.h"
 
-void (*NACH_DEM_JAHR)(Spiel&) = nullptr;
 
 void RUNDE_AUSFUEHREN(Spiel& s) {
     EINSTATISTIK(s, EST_DOCK_ANGEBOTEN, DockPlaetze(s, 1));
@@ -60,6 +59,6 @@ void RUNDE_AUSFUEHREN(Spiel& s) {
         MARKT_ANZEIGEN(s);
         JAHRES_KLANG(s);
     }
-    if (NACH_DEM_JAHR) NACH_DEM_JAHR(s);
+    if (s.haken.NachDemJahr) s.haken.NachDemJahr(s);
 }
 
