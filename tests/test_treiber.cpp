@@ -27,7 +27,7 @@ TEST(Treiber, LieferungNurNachKurzemSchlafUndVirtuelleZeit) {
         p.pumpen();
         ++polls;
     }
-    EXPECT_EQ(polls, 7) << "30 ms of waiting, then the next poll";
+    EXPECT_EQ(polls, 6) << "30 ms after the key, at the poll that reaches it";
     EXPECT_TRUE(e.art == EreignisArt::MouseUp && e.x == 10 && e.y == 20);
     p.schlafen(5);
     EXPECT_THROW(p.pumpen(), ProgrammEnde) << "the script is used up and the game polls again";
