@@ -11,7 +11,10 @@
 #include <functional>
 #include <memory>
 #include <sstream>
+#include <sys/resource.h>
 #include <unistd.h>
+
+#include <csignal>
 
 #include "flow/programm.h"
 #include "flow/spielstand.h"
@@ -171,4 +174,24 @@ TEST(Aufnahme, ZehnSitzungenBleibenUndEinVersperrterOrdnerHaeltNichtsAuf) {
     EXPECT_FALSE(gesperrt.starten(ordner + "/datei/Aufnahmen", 0));
     gesperrt.taste(13, 13, 5);  // nothing, and no crash
     EXPECT_NE(testing::internal::GetCapturedStderr().find("keine Aufnahme"), std::string::npos);
+}
+
+TEST(Aufnahme, VollePlatteBeendetNurDieAufnahme) {
+    const std::string ordner = Ordner("voll");
+    rlimit alt{};
+    getrlimit(RLIMIT_FSIZE, &alt);
+    rlimit klein = alt;
+    klein.rlim_cur = 300;  // the disk is full after 300 bytes
+    std::signal(SIGXFSZ, SIG_IGN);
+    Aufnahme a;
+    testing::internal::CaptureStderr();
+    setrlimit(RLIMIT_FSIZE, &klein);
+    ASSERT_TRUE(a.starten(ordner, 0));
+    for (int i = 0; i < 100; ++i) a.taste(13, 13, i);
+    setrlimit(RLIMIT_FSIZE, &alt);
+    std::signal(SIGXFSZ, SIG_DFL);
+    const std::string fehler = testing::internal::GetCapturedStderr();
+    EXPECT_FALSE(a.laeuft());
+    EXPECT_NE(fehler.find("bricht ab"), std::string::npos);
+    EXPECT_EQ(fehler.find('\n'), fehler.size() - 1) << "one line: " << fehler;
 }

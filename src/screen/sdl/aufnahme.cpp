@@ -19,7 +19,7 @@ bool IstAufnahme(const fs::path& p) {
     return n.rfind(VORSILBE, 0) == 0 && p.extension() == ENDUNG;
 }
 
-// Sitzung-2026-11-23-18-55-02.txt: the names sort by time.
+// Sitzung-2026-11-23-18-55-02.txt (a second one in that second _2): the names sort by time.
 std::string Zeitstempel() {
     const std::time_t t = std::time(nullptr);
     std::tm tm{};
@@ -49,7 +49,7 @@ bool Aufnahme::starten(const std::string& ordner, long long jetzt, int behalten)
     fs::create_directories(ordner, fc);
     const std::string stempel = Zeitstempel();
     std::string pfad = ordner + "/" + VORSILBE + stempel + ENDUNG;
-    for (int n = 2; fs::exists(pfad, fc); ++n) pfad = ordner + "/" + VORSILBE + stempel + "-" + std::to_string(n) + ENDUNG;
+    for (int n = 2; fs::exists(pfad, fc); ++n) pfad = ordner + "/" + VORSILBE + stempel + "_" + std::to_string(n) + ENDUNG;
     datei_ = std::fopen(pfad.c_str(), "wx");
     if (!datei_) {
         std::fprintf(stderr, "Quorvant: keine Aufnahme dieser Sitzung ('%s' nicht anlegbar).\n", pfad.c_str());
