@@ -16,7 +16,7 @@ TEST(Treiber, LieferungNurNachKurzemSchlafUndVirtuelleZeit) {
     EXPECT_FALSE(p.ereignisHolen(e)) << "one input at a time";
     int polls = 0;
     for (; !p.ereignisHolen(e); ++polls) p.schlafen(5), p.pumpen();
-    EXPECT_EQ(polls, 7) << "30 ms of waiting, then the next poll";
+    EXPECT_EQ(polls, 6) << "30 ms after the key, at the poll that reaches it";
     EXPECT_TRUE(e.art == EreignisArt::MouseUp && e.x == 10 && e.y == 20);
     p.schlafen(5);
     EXPECT_THROW(p.pumpen(), ProgrammEnde) << "the script is used up and the game polls again";

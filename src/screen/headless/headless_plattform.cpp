@@ -2,41 +2,10 @@
 
 #include <algorithm>
 #include <ctime>
-#include <sstream>
 
 #include "state/text.h"
 
 namespace {
-
-struct TastenName {
-    const char* name;
-    int code;
-    int zeichen;  // the character the key types, -1 none
-};
-
-// Keys a script may press: name, Windows key code, character of the key.
-constexpr TastenName TASTEN[] = {
-    {"ENTER", 13, 13},  {"ESC", 27, 27},    {"SPACE", 32, ' '}, {"BACKSPACE", 8, 8},
-    {"TAB", 9, 9},      {"UP", 38, -1},     {"DOWN", 40, -1},   {"LEFT", 37, -1},
-    {"RIGHT", 39, -1},  {"PGUP", 33, -1},   {"PGDN", 34, -1},   {"PERIOD", 190, '.'},
-    {"F3", 114, -1},    {"F4", 115, -1},    {"F5", 116, -1},
-};
-
-// The key that types a character on a German keyboard.
-int TastenCodeFuer(unsigned char c) {
-    if (c >= 'a' && c <= 'z') return c - 32;
-    if ((c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == ' ') return c;
-    switch (c) {
-        case 0xE4: case 0xC4: return 222;  // ä
-        case 0xF6: case 0xD6: return 192;  // ö
-        case 0xFC: case 0xDC: return 186;  // ü
-        case 0xDF: return 219;             // ß
-        case '.': return 190;
-        case ',': return 188;
-        case '-': return 189;
-        default: return 0;
-    }
-}
 
 std::string Zahl(long long n) { return std::to_string(n); }
 
@@ -47,64 +16,21 @@ HeadlessPlattform::HeadlessPlattform() = default;
 bool HeadlessPlattform::schriftBereit(std::string& fehler) { return leinwand_.schriftLaden(fehler); }
 
 bool HeadlessPlattform::skriptLaden(const std::string& text, std::string& fehler) {
-    std::istringstream ein(text);
-    std::string zeile;
-    int nr = 0;
-    while (std::getline(ein, zeile)) {
-        ++nr;
-        if (!zeile.empty() && zeile.back() == '\r') zeile.pop_back();
-        size_t a = zeile.find_first_not_of(" \t");
-        if (a == std::string::npos || zeile[a] == '#') continue;
-        zeile = zeile.substr(a);
-        std::string wort = zeile.substr(0, zeile.find(' '));
-        std::string rest = zeile.size() > wort.size() ? zeile.substr(wort.size() + 1) : "";
-        Zeile z;
-        z.art = Art::Taste;
-        z.nummer = nr;
-        bool gut = true;
-        std::istringstream r(rest);
-        if (wort == "key") {
-            std::string name = Trim(rest);
-            gut = false;
-            if (name.size() == 1 && ((name[0] >= 'A' && name[0] <= 'Z') || (name[0] >= '0' && name[0] <= '9'))) {
-                z.code = name[0];
-                z.zeichen = name[0] >= 'A' ? name[0] + 32 : name[0];
-                gut = true;
-            }
-            for (const auto& t : TASTEN)
-                if (name == t.name) { z.code = t.code; z.zeichen = t.zeichen; gut = true; }
-        } else if (wort == "type") {
-            z.art = Art::Tippen;
-            z.text = T(rest);
-            gut = !z.text.empty();
-        } else if (wort == "click") {
-            z.art = Art::Klick;
-            gut = static_cast<bool>(r >> z.x >> z.y);
-        } else if (wort == "wait") {
-            z.art = Art::Warten;
-            gut = static_cast<bool>(r >> z.ms) && z.ms >= 0;
-        } else if (wort == "answer") {
-            z.art = Art::Antwort;
-            std::string w = Trim(rest);
-            gut = w == "yes" || w == "no";
-            z.ja = w == "yes";
-        } else if (wort == "close" && Trim(rest).empty()) {
-            z.art = Art::Schliessen;
-        } else {
-            gut = false;
-        }
-        if (!gut) {
-            fehler = "Skriptzeile " + std::to_string(nr) + " unbekannt: " + zeile;
-            return false;
-        }
-        skript_.push_back(z);
-    }
-    return true;
+    return SkriptLesen(text, skript_, fehler);
 }
 
 bool HeadlessPlattform::skriptAufgebraucht() const { return pos_ >= skript_.size(); }
 
 uint32_t HeadlessPlattform::saat() {
+    // A seed line right behind the input that led here belongs to this seeding.
+    if (!saatVorgemerkt_ && pos_ < skript_.size() && skript_[pos_].art == SkriptArt::Saat) {
+        saatVorgemerkt_ = true;
+        vorgemerkteSaat_ = skript_[pos_++].saat;
+    }
+    if (saatVorgemerkt_) {
+        saatVorgemerkt_ = false;
+        return vorgemerkteSaat_;
+    }
     if (saatFest_) return saat_;
     return static_cast<uint32_t>(std::time(nullptr));
 }
@@ -257,63 +183,93 @@ std::string HeadlessPlattform::bildschirm() const {
 
 void HeadlessPlattform::schlafen(int ms) {
     spurZeile("sleep " + Zahl(ms));
-    uhr_ += ms;
+    // A poll ends when a timed input comes, as the window's does.
+    if (ms <= 50 && faellig_ > uhr_ && faellig_ < uhr_ + ms && eingabeZeile(pos_)) uhr_ = faellig_;
+    else uhr_ += ms;
     kurzGeschlafen_ = ms <= 50;
     if (uhr_ - START_MS >= maxMs_) throw ProgrammEnde{0};
 }
 
-bool HeadlessPlattform::ausliefern() {
+bool HeadlessPlattform::eingabeZeile(size_t i) const {
+    if (i >= skript_.size()) return false;
+    const SkriptArt a = skript_[i].art;
+    return a == SkriptArt::Taste || a == SkriptArt::Tippen || a == SkriptArt::Klick || a == SkriptArt::Schliessen;
+}
+
+bool HeadlessPlattform::ausliefern(bool abfrage) {
+    bool etwas = false;
     while (pos_ < skript_.size()) {
-        if (uhr_ < wartenBis_) return false;
-        Zeile& z = skript_[pos_];
+        const SkriptZeile& z = skript_[pos_];
+        const bool gezeitet = faellig_ >= 0;
+        if (z.art == SkriptArt::Warten) {  // waits add up from the last input on
+            faellig_ = (gezeitet ? faellig_ : basis_) + z.ms;
+            ++pos_;
+            continue;
+        }
+        if (z.art == SkriptArt::Saat) {
+            saatVorgemerkt_ = true;
+            vorgemerkteSaat_ = z.saat;
+            ++pos_;
+            continue;
+        }
+        if (z.art == SkriptArt::Antwort) {
+            // A timed answer waits for its box; when none came by its time, it is for the next one.
+            if (gezeitet && uhr_ < faellig_) break;
+            antwortVorgemerkt_ = z.ja ? 1 : 2;
+            if (gezeitet) {
+                basis_ = uhr_;
+                faellig_ = -1;
+            }
+            ++pos_;
+            continue;
+        }
+        // A timed input comes at its time wherever the game is; an untimed one
+        // only to a routine that polls, one at a time.
+        if (gezeitet ? uhr_ < faellig_ : (!abfrage || etwas || !warteschlange_.empty())) break;
         switch (z.art) {
-            case Art::Warten:
-                wartenBis_ = uhr_ + z.ms;
-                ++pos_;
-                continue;
-            case Art::Antwort:
-                antwortVorgemerkt_ = z.ja ? 1 : 2;
-                ++pos_;
-                continue;
-            case Art::Taste:
-                warteschlange_.push_back({EreignisArt::KeyDown, z.code});
+            case SkriptArt::Taste:
+                if (z.code >= 0) warteschlange_.push_back({EreignisArt::KeyDown, z.code});
                 if (z.zeichen >= 0) warteschlange_.push_back({EreignisArt::KeyPress, z.zeichen});
                 ++pos_;
-                return true;
-            case Art::Tippen: {
+                break;
+            case SkriptArt::Tippen: {
                 unsigned char c = static_cast<unsigned char>(z.text[tippPos_]);
-                warteschlange_.push_back({EreignisArt::KeyDown, TastenCodeFuer(c)});
+                warteschlange_.push_back({EreignisArt::KeyDown, SkriptTastenCode(c)});
                 warteschlange_.push_back({EreignisArt::KeyPress, c});
                 if (++tippPos_ >= z.text.size()) {
                     tippPos_ = 0;
                     ++pos_;
                 }
-                return true;
+                break;
             }
-            case Art::Klick:
+            case SkriptArt::Klick:
                 warteschlange_.push_back({EreignisArt::MouseUp, 0, 1, z.x, z.y});
                 ++pos_;
-                return true;
-            case Art::Schliessen:
+                break;
+            default:
                 warteschlange_.push_back({EreignisArt::Schliessen});
                 ++pos_;
-                return true;
+                break;
         }
+        basis_ = uhr_;
+        faellig_ = -1;
+        etwas = true;
     }
-    return false;
+    return etwas;
 }
 
 void HeadlessPlattform::pumpen() {
-    if (!kurzGeschlafen_) return;  // only the polling of a waiting routine takes input
+    const bool abfrage = kurzGeschlafen_;
     kurzGeschlafen_ = false;
-    if (!warteschlange_.empty()) return;
-    if (ausliefern() || pos_ < skript_.size() || uhr_ < wartenBis_) return;
+    if (ausliefern(abfrage) || !abfrage || !warteschlange_.empty() || pos_ < skript_.size() || uhr_ < faellig_)
+        return;
     if (nachschub_) {
+        // The computer players hand in their next keys when the script runs dry.
         skript_.clear();  // what was played is not needed again
         pos_ = 0;
         std::string fehler;
         const std::string mehr = nachschub_();
-        if (!mehr.empty() && skriptLaden(mehr, fehler) && (ausliefern() || pos_ < skript_.size())) return;
+        if (!mehr.empty() && skriptLaden(mehr, fehler) && (ausliefern(abfrage) || pos_ < skript_.size())) return;
     }
     throw ProgrammEnde{0};
 }
@@ -329,10 +285,21 @@ bool HeadlessPlattform::ereignisHolen(Ereignis& e) {
 
 bool HeadlessPlattform::frage(const std::string& titel, const std::string& text) {
     nichtGeschlafen();
-    // An "answer" line right behind the input that raised the box belongs to it.
-    if (antwortVorgemerkt_ == 0 && pos_ < skript_.size() && skript_[pos_].art == Art::Antwort) {
-        antwortVorgemerkt_ = skript_[pos_].ja ? 1 : 2;
-        ++pos_;
+    // An answer line right behind the input that raised the box belongs to it;
+    // after a wait the box stood that long.
+    if (antwortVorgemerkt_ == 0) {
+        size_t i = pos_;
+        long long f = faellig_;
+        for (; i < skript_.size() && skript_[i].art == SkriptArt::Warten; ++i) f = (f >= 0 ? f : basis_) + skript_[i].ms;
+        if (i < skript_.size() && skript_[i].art == SkriptArt::Antwort) {
+            antwortVorgemerkt_ = skript_[i].ja ? 1 : 2;
+            pos_ = i + 1;
+            if (f >= 0) {
+                uhr_ = std::max(uhr_, f);
+                basis_ = uhr_;
+                faellig_ = -1;
+            }
+        }
     }
     bool ja = antwortVorgemerkt_ != 2;
     antwortVorgemerkt_ = 0;

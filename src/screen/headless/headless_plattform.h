@@ -10,13 +10,13 @@
 
 #include "screen/leinwand.h"
 #include "screen/plattform.h"
+#include "screen/skript.h"
 
 class HeadlessPlattform : public Plattform {
 public:
     HeadlessPlattform();
 
-    // Script lines: key NAME, type TEXT, click X Y, wait MS, answer yes|no,
-    // close, # comments. On a bad line returns false and names it.
+    // The lines of screen/skript.h. On a bad line returns false and names it.
     bool skriptLaden(const std::string& text, std::string& fehler);
     void saatFestlegen(uint32_t saat) { saatFest_ = true; saat_ = saat; }
     void maxMsFestlegen(long long ms) { maxMs_ = ms; }
@@ -61,17 +61,6 @@ public:
 
 private:
     static constexpr long long START_MS = 1000000;
-    enum class Art { Taste, Tippen, Klick, Warten, Antwort, Schliessen };
-    struct Zeile {
-        Art art = Art::Taste;
-        int nummer = 0;      // line number in the script
-        int code = 0;        // key code
-        int zeichen = -1;    // character of the key, -1 none
-        std::string text;    // type: Windows-1252
-        int x = 0, y = 0;
-        long long ms = 0;
-        bool ja = true;
-    };
     struct Posten {  // one thing printed or painted, for the screen file
         bool istText = true;
         int x = 0, y = 0, groesse = 0;
@@ -84,19 +73,25 @@ private:
     void verdecken(int x1, int y1, int x2, int y2);  // inclusive
     void spurZeile(const std::string& zeile);
     void nichtGeschlafen() { kurzGeschlafen_ = false; }
-    bool ausliefern();  // one scripted input into the queue; false if none due
+    // Scripted input into the queue: every timed input that is due, and one
+    // untimed input when the game polls. False if nothing came.
+    bool ausliefern(bool abfrage);
+    bool eingabeZeile(size_t i) const;
 
     Leinwand leinwand_;
-    std::vector<Zeile> skript_;
+    std::vector<SkriptZeile> skript_;
     size_t pos_ = 0;
     size_t tippPos_ = 0;  // next character of a "type" line
     std::deque<Ereignis> warteschlange_;
     long long uhr_ = START_MS;
-    long long wartenBis_ = 0;
+    long long basis_ = START_MS;   // when the last input arrived
+    long long faellig_ = -1;      // when the next input is due, -1: at the next poll
     long long maxMs_ = 86400000LL;
     bool kurzGeschlafen_ = false;
     bool saatFest_ = false;
     uint32_t saat_ = 0;
+    bool saatVorgemerkt_ = false;  // a seed line passed: the next seeding gives it
+    uint32_t vorgemerkteSaat_ = 0;
     int antwortVorgemerkt_ = 0;  // 1 yes, 2 no, 0 none
     bool spurAn_ = false;
     std::string spur_;

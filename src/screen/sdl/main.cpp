@@ -33,11 +33,12 @@ std::string ProgrammOrdner() {
     return ordner;
 }
 
-// Saved games: ~/.local/share/quorvant/Daten
-std::string DatenOrdner() {
+// Saved games: ~/.local/share/quorvant/Daten; recordings of the sessions beside
+// them in ~/.local/share/quorvant/Aufnahmen.
+std::string DatenOrdner(const char* name = "Daten") {
     std::string ordner;
     if (char* pref = SDL_GetPrefPath("", "quorvant")) {
-        ordner = std::string(pref) + "Daten";
+        ordner = std::string(pref) + name;
         SDL_free(pref);
     }
     return ordner;
@@ -60,6 +61,8 @@ int main(int, char**) {
         if (bilder < 44)
             std::fprintf(stderr, "Quorvant: nur %d von 44 Bildern in '%s/bilder' gefunden, der Rest bleibt grau.\n",
                          bilder, spiel->ProgrammVerzeichnis.c_str());
+        if (const std::string aufnahmen = DatenOrdner("Aufnahmen"); !aufnahmen.empty())
+            plattform->aufnahme().starten(aufnahmen, plattform->uhrMs());
         const int status = PROGRAMM_AUSFUEHREN(*spiel, *plattform);
         spiel->plattform = nullptr;
         return status;

@@ -202,13 +202,25 @@ bool SdlPlattform::ereignisHolen(Ereignis& e) {
     if (warteschlange_.empty()) return false;
     e = warteschlange_.front();
     warteschlange_.pop_front();
+    // Recorded as the game takes it: a key and the character it typed are one line.
+    const bool teil = zeichenAufgenommen_ && e.art == EreignisArt::KeyPress;
+    zeichenAufgenommen_ = false;
+    if (teil) return true;
+    if (e.art == EreignisArt::KeyDown && !warteschlange_.empty() && warteschlange_.front().art == EreignisArt::KeyPress) {
+        aufnahme_.taste(e.code, warteschlange_.front().code, uhrMs());
+        zeichenAufgenommen_ = true;
+    } else {
+        aufnahme_.eingabe(e, uhrMs());
+    }
     return true;
 }
 
 long long SdlPlattform::uhrMs() { return static_cast<long long>(SDL_GetTicks64()); }
 
 uint32_t SdlPlattform::saat() {
-    return static_cast<uint32_t>(std::time(nullptr)) + static_cast<uint32_t>(SDL_GetTicks64());
+    const uint32_t wert = static_cast<uint32_t>(std::time(nullptr)) + static_cast<uint32_t>(SDL_GetTicks64());
+    aufnahme_.saat(wert);
+    return wert;
 }
 
 // --- boxes -------------------------------------------------------------------------
@@ -306,8 +318,9 @@ bool SdlPlattform::gemalteBox(const std::string& titel, const std::string& text,
 bool SdlPlattform::frage(const std::string& titel, const std::string& text) {
     zeigen(true);
     const int r = sdlBox(titel, text, BoxArt::Frage, true);
-    if (r >= 0) return r == 1;
-    return gemalteBox(titel, text, true);
+    const bool ja = r >= 0 ? r == 1 : gemalteBox(titel, text, true);
+    aufnahme_.antwort(ja, uhrMs());
+    return ja;
 }
 
 void SdlPlattform::meldung(const std::string& titel, const std::string& text, BoxArt art) {

@@ -7,6 +7,7 @@
 
 #include "screen/leinwand.h"
 #include "screen/plattform.h"
+#include "screen/sdl/aufnahme.h"
 #include "screen/sdl/hochbild.h"
 
 struct SDL_Window;
@@ -30,6 +31,8 @@ public:
     // What the window shows: the pixels of its surface (for tests and screenshots).
     SDL_Surface* fensterFlaeche() { return flaeche_; }
     const Hochbild& hochbild() const { return hoch_; }
+    // The session's recording; it writes once started.
+    Aufnahme& aufnahme() { return aufnahme_; }
 
     // Plattform
     void leeren() override;
@@ -86,6 +89,8 @@ private:
     bool sdlBoxGeht_ = true;
     std::deque<Ereignis> warteschlange_;
     std::string titel_ = "Quorvant";
+    Aufnahme aufnahme_;
+    bool zeichenAufgenommen_ = false;  // the character after a key went into the key's line
 
     bool tonVersucht_ = false;
     bool tonAn_ = false;
