@@ -7,6 +7,7 @@
 #include "bots/strategie_intern.h"
 #include "orders/schiffe.h"
 #include "state/codes.h"
+#include "economy/spacedocks.h"
 #include "state/sterne.h"
 
 using namespace bots;
@@ -14,21 +15,6 @@ using namespace bots;
 namespace {
 
 constexpr int AKTIONEN_JE_ZUG = 40;
-
-int WaffenGrenze(const Spiel& s, const Schiff& sch, int p) {
-    if (IstFrachter(sch) || IstTanker(sch)) return 4;
-    if (IstStation(sch)) return 6;
-    if (IstGrossfrachter(sch)) return 9;
-    if (IstKreuzer(sch)) return Erfunden(s, ERF_WAFFEN, p) ? 15 : 9;
-    return 0;
-}
-
-int LaderaumGrenze(const Spiel& s, const Schiff& sch, int p) {
-    if (IstFrachter(sch) || IstTanker(sch)) return Erfunden(s, ERF_LADERAUM, p) ? 120 : 90;
-    if (IstStation(sch)) return Erfunden(s, ERF_STATIONEN, p) ? 150 : 90;
-    if (IstGrossfrachter(sch)) return 300;
-    return 0;
-}
 
 // The first ship of p resting on Sol III that passes the test, as the docks choose it; 0 none.
 template <class F>
@@ -163,11 +149,11 @@ bool Computerspieler::docks() {
         taste("ENTER");  // ja
         return true;
     }
-    const int raum = ErstesAufSol(s_, p, [&](const Schiff& sch) { return sch.Laderaum < LaderaumGrenze(s_, sch, p); });
+    const int raum = ErstesAufSol(s_, p, [&](const Schiff& sch) { return sch.Laderaum < LADERAUM_GRENZE(s_, sch, p); });
     // Holds grow with the house: a small one is filled by a tour through a system.
     if (raum && s_.Schiffe(raum).Laderaum < 30 + 30 * s_.Rang(p) && geld > 1000 + RESERVE) {
         const Schiff& sch = s_.Schiffe(raum);
-        const long n = std::min<long>({LaderaumGrenze(s_, sch, p) - sch.Laderaum, 20, (geld - RESERVE) / 10});
+        const long n = std::min<long>({LADERAUM_GRENZE(s_, sch, p) - sch.Laderaum, 20, (geld - RESERVE) / 10});
         menue("D");
         for (int i = 1; i < AUFTRAG_LADERAUM; ++i) taste("UP");
         taste("ENTER");
@@ -176,10 +162,10 @@ bool Computerspieler::docks() {
         taste("ENTER");
         return true;
     }
-    const int waffen = ErstesAufSol(s_, p, [&](const Schiff& sch) { return sch.Bewaffnung < WaffenGrenze(s_, sch, p); });
+    const int waffen = ErstesAufSol(s_, p, [&](const Schiff& sch) { return sch.Bewaffnung < WAFFEN_GRENZE(s_, sch, p); });
     if (waffen && (IstKreuzer(s_.Schiffe(waffen)) || wuerfel(40) == 0) && geld > 85 + 2 * RESERVE) {
         const Schiff& sch = s_.Schiffe(waffen);
-        const long n = std::min<long>(WaffenGrenze(s_, sch, p) - sch.Bewaffnung, (geld - 2 * RESERVE) / 85);
+        const long n = std::min<long>(WAFFEN_GRENZE(s_, sch, p) - sch.Bewaffnung, (geld - 2 * RESERVE) / 85);
         menue("D");
         for (int i = 1; i < AUFTRAG_BEWAFFNUNG; ++i) taste("UP");
         taste("ENTER");

@@ -54,23 +54,6 @@ void DockListe(Spiel& s, int p, int m) {
     }
 }
 
-// Greatest hold a ship of this type may be given; 0: none can be enlarged.
-int LaderaumGrenze(const Spiel& s, const Schiff& sch, int p) {
-    if (IstFrachter(sch) || IstTanker(sch)) return Erfunden(s, ERF_LADERAUM, p) ? 120 : 90;
-    if (IstStation(sch)) return Erfunden(s, ERF_STATIONEN, p) ? 150 : 90;
-    if (IstGrossfrachter(sch)) return 300;
-    return 0;
-}
-
-// Highest weapons level of this type; 0: it carries none.
-int WaffenGrenze(const Spiel& s, const Schiff& sch, int p) {
-    if (IstFrachter(sch) || IstTanker(sch)) return 4;
-    if (IstStation(sch)) return 6;
-    if (IstGrossfrachter(sch)) return 9;
-    if (IstKreuzer(sch)) return Erfunden(s, ERF_WAFFEN, p) ? 15 : 9;
-    return 0;
-}
-
 long ReparaturPreis(const Schiff& sch) {
     const long d = sch.Schaden;
     if (IstFrachter(sch)) return 9 * d;
@@ -87,8 +70,8 @@ bool PasstFuer(const Spiel& s, int auftrag, int n) {
     const int p = s.AktSpieler;
     if (IstFrei(sch) || sch.Besitzer != p || sch.Zustand != ZUSTAND_RUHT || sch.Planet != SOL_III) return false;
     switch (auftrag) {
-        case AUFTRAG_LADERAUM: return sch.Laderaum < LaderaumGrenze(s, sch, p);
-        case AUFTRAG_BEWAFFNUNG: return sch.Bewaffnung < WaffenGrenze(s, sch, p);
+        case AUFTRAG_LADERAUM: return sch.Laderaum < LADERAUM_GRENZE(s, sch, p);
+        case AUFTRAG_BEWAFFNUNG: return sch.Bewaffnung < WAFFEN_GRENZE(s, sch, p);
         case AUFTRAG_REPARATUR: return sch.Schaden > 0;
         case AUFTRAG_DTW_FILTER: return !IstStation(sch) && sch.Tankgroesse == 30;
         default: return false;
@@ -157,7 +140,7 @@ void LaderaumErweitern(Spiel& s) {
     const int n = SchiffFuerAuftrag(s, AUFTRAG_LADERAUM);
     if (n == 0) return;
     Schiff& sch = s.Schiffe(n);
-    const int max = LaderaumGrenze(s, sch, s.AktSpieler) - sch.Laderaum;
+    const int max = LADERAUM_GRENZE(s, sch, s.AktSpieler) - sch.Laderaum;
     TEXT_AUSGEBEN(s, "Erweitern um     t", 15, 50, 660, WEISS);
     TEXT_AUSGEBEN(s, T("1t für 10 SD"), 15, 50, 690, WEISS);
     ZAHL_EINGEBEN(s, 0, max, 203, 660, 15, WEISS, 4, max, 0);
@@ -175,7 +158,7 @@ void Bewaffnen(Spiel& s) {
     const int n = SchiffFuerAuftrag(s, AUFTRAG_BEWAFFNUNG);
     if (n == 0) return;
     Schiff& sch = s.Schiffe(n);
-    const int max = WaffenGrenze(s, sch, s.AktSpieler) - sch.Bewaffnung;
+    const int max = WAFFEN_GRENZE(s, sch, s.AktSpieler) - sch.Bewaffnung;
     TEXT_AUSGEBEN(s, "Erweitern um", 15, 50, 660, WEISS);
     TEXT_AUSGEBEN(s, T("1 für 85 SD"), 15, 50, 690, WEISS);
     ZAHL_EINGEBEN(s, 0, max, 194, 660, 15, WEISS, 3, max, 0);
@@ -256,4 +239,21 @@ void SPACEDOCKS(Spiel& s) {
         case AUFTRAG_DTW_FILTER: FilterEinbauen(s); break;
         default: break;  // Esc
     }
+}
+
+// Greatest hold a ship of this type may be given; 0: none can be enlarged.
+int LADERAUM_GRENZE(const Spiel& s, const Schiff& sch, int p) {
+    if (IstFrachter(sch) || IstTanker(sch)) return Erfunden(s, ERF_LADERAUM, p) ? 120 : 90;
+    if (IstStation(sch)) return Erfunden(s, ERF_STATIONEN, p) ? 150 : 90;
+    if (IstGrossfrachter(sch)) return 300;
+    return 0;
+}
+
+// Highest weapons level of this type; 0: it carries none.
+int WAFFEN_GRENZE(const Spiel& s, const Schiff& sch, int p) {
+    if (IstFrachter(sch) || IstTanker(sch)) return 4;
+    if (IstStation(sch)) return 6;
+    if (IstGrossfrachter(sch)) return 9;
+    if (IstKreuzer(sch)) return Erfunden(s, ERF_WAFFEN, p) ? 15 : 9;
+    return 0;
 }

@@ -7,3 +7,7 @@ void SPACEDOCKS(Spiel& s);
 // Puts a ship into the player's row of the docks, ascending, the empty
 // places behind; the last place must be free.
 void DOCK_EINREIHEN(Spiel& s, int spieler, int schiff);
+// Greatest hold the docks give a ship of this type for player p; 0: none.
+int LADERAUM_GRENZE(const Spiel& s, const Schiff& sch, int p);
+// Highest weapons level of this type for player p; 0: it carries none.
+int WAFFEN_GRENZE(const Spiel& s, const Schiff& sch, int p);
