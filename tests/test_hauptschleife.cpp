@@ -115,6 +115,7 @@ TEST(Hauptschleife, SpielBeendenDialog) {
 TEST(Hauptschleife, BeendenMitSichernSpeichertAmRundenende) {
     Runde r("key E\nkey ENTER\nkey ENTER\nkey ENTER\nkey W\nkey ENTER\ntype Spiel1\nkey ENTER");
     r.s->AnzahlPlaneten = 500;  // the loader takes only a game with a galaxy in play
+    for (int n = 11; n <= 510; ++n) r.s->Dokument(n).Ware = 1;  // whose planets produce goods
     r.spielen();
     EXPECT_TRUE(r.gedruckt("Am Ende der Runde wird gespeichert."));
     EXPECT_TRUE(r.gedruckt("Spiel erfolgreich gespeichert."));
