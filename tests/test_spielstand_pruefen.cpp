@@ -40,6 +40,7 @@ TEST(SpielstandPruefen, WerteAusserhalbDerTabellenWerdenAbgelehnt) {
         {"KomponentenPlanet(3) = 1020", [](Spiel& s) { s.KomponentenPlanet(3) = 1020; }},
         {"Komponenten = 6", [](Spiel& s) { s.Komponenten = 6; }},
         {"Schiffe(1011).Planet = 2", [](Spiel& s) { s.Schiffe(PIRATEN_HQ).Planet = 2; }},
+        {"Schiffe(1007).Planet = 0", [](Spiel& s) { s.Schiffe(1007).Planet = 0; }},
         // Values that pick no table entry but that no game can have, and that
         // the year would turn into overflows or false owners.
         {"Schiffe(2).Besitzer = 3", [](Spiel& s) { s.Schiffe(2).Besitzer = 3; }},

@@ -88,7 +88,7 @@ bool SPIELSTAND_PRUEFEN(const Spiel& s, std::string& wo) {
                   p.schiff(i, "Zustand"), sch.Zustand);
     }
     for (int i = HAENDLER_ERSTES; i <= HAENDLER_LETZTES; ++i)
-        p.pruefen(s.Schiffe(i).Planet == 0 || p.imSpiel(s.Schiffe(i).Planet), p.schiff(i, "Planet"), s.Schiffe(i).Planet);
+        p.pruefen(p.imSpiel(s.Schiffe(i).Planet), p.schiff(i, "Planet"), s.Schiffe(i).Planet);  // they sail every year
     const Schiff& hq = s.Schiffe(PIRATEN_HQ);
     p.pruefen(hq.Planet == 0 || p.imSpiel(hq.Planet), p.schiff(PIRATEN_HQ, "Planet"), hq.Planet);
 
