@@ -48,6 +48,8 @@ TEST(SpielstandPruefen, WerteAusserhalbDerTabellenWerdenAbgelehnt) {
         {"Schiffe(4).Treibstoff = 0", [](Spiel& s) { s.Schiffe(4).Treibstoff = std::nanf(""); }},
         {"Dokument(20).Ware = 0", [](Spiel& s) { s.Dokument(20).Ware = 0; }},
         {"Jahr = 2147483647", [](Spiel& s) { s.Jahr = 2147483647; }},
+        {"Dokument(31).X = 30000", [](Spiel& s) { s.Dokument(31).X = 30000; }},
+        {"Schiffe(1).Laderaum = 32000", [](Spiel& s) { s.Schiffe(1).Laderaum = 32000; }},
         {"Bargeld(2) = -2147483648", [](Spiel& s) { s.Bargeld(2) = -2147483647 - 1; }},
         {"Kredit(1) = -5", [](Spiel& s) { s.Kredit(1) = -5; }},
     };

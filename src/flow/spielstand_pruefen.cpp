@@ -24,6 +24,15 @@ struct Pruefung {
 // Money, counters and stock far beyond any game, but with room left below
 // the width of a Long for the sums of a year.
 constexpr long GELD_GRENZE = 1000000000L;
+// Star positions and offsets far beyond any map, but so that no distance
+// outgrows an Integer.
+constexpr int KARTEN_GRENZE = 10000;
+constexpr int ABSTAND_GRENZE = 2000;
+// Holds, planet prices and stock far beyond any game, so that a year of
+// loading by every slot cannot outgrow the money.
+constexpr int LADERAUM_GRENZE = 1000;
+constexpr int PREIS_GRENZE = 1000;
+constexpr long BESTAND_GRENZE = 1000000L;
 
 bool TypBekannt(const std::string& typ) {
     if (typ.empty()) return true;
@@ -75,6 +84,8 @@ bool SPIELSTAND_PRUEFEN(const Spiel& s, std::string& wo) {
         p.pruefen(std::isfinite(sch.Treibstoff) && std::fabs(sch.Treibstoff) <= 1000.0f, p.schiff(i, "Treibstoff"),
                   static_cast<long>(std::isfinite(sch.Treibstoff) ? sch.Treibstoff : 0));
         if (IstFrei(sch)) continue;
+        p.pruefen(sch.Laderaum >= 0 && sch.Laderaum <= LADERAUM_GRENZE, p.schiff(i, "Laderaum"), sch.Laderaum);
+        p.pruefen(sch.Ladung >= -LADERAUM_GRENZE && sch.Ladung <= LADERAUM_GRENZE, p.schiff(i, "Ladung"), sch.Ladung);
         // A ship in use stands on, or flies between, planets in play.
         // Only a new pirate may wait above HoechstesSchiff, until a player's
         // new ship raises the bound past it.
@@ -98,7 +109,11 @@ bool SPIELSTAND_PRUEFEN(const Spiel& s, std::string& wo) {
         // Every planet in play produces a good; the goods index the market.
         const bool imSpiel = n >= 11 && n <= s.AnzahlPlaneten + 10;
         p.pruefen(pl.Ware >= (imSpiel ? 1 : 0) && pl.Ware <= ANZAHL_WAREN, d + "Ware", pl.Ware);
-        p.pruefen(pl.Bestand >= -GELD_GRENZE && pl.Bestand <= GELD_GRENZE, d + "Bestand", pl.Bestand);
+        p.pruefen(pl.Bestand >= -BESTAND_GRENZE && pl.Bestand <= BESTAND_GRENZE, d + "Bestand", pl.Bestand);
+        p.pruefen(pl.Preis >= 0 && pl.Preis <= PREIS_GRENZE, d + "Preis", pl.Preis);
+        p.pruefen(pl.X >= -KARTEN_GRENZE && pl.X <= KARTEN_GRENZE, d + "X", pl.X);
+        p.pruefen(pl.Y >= -KARTEN_GRENZE && pl.Y <= KARTEN_GRENZE, d + "Y", pl.Y);
+        p.pruefen(pl.Abstand >= -ABSTAND_GRENZE && pl.Abstand <= ABSTAND_GRENZE, d + "Abstand", pl.Abstand);
         p.pruefen(pl.Name.size() <= 40, d + "Name", static_cast<long>(pl.Name.size()));
     }
     for (int k = 1; k <= 5; ++k)
