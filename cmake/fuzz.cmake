@@ -19,8 +19,13 @@ foreach(ziel quorvant_state quorvant_leinwand quorvant_screen quorvant_orders qu
              quorvant_economy quorvant_views quorvant_flow quorvant_headless quorvant-headless)
   target_compile_options(${ziel} PRIVATE ${QUORVANT_FUZZ_FLAGS})
 endforeach()
-# The driver makes the seed corpus; it runs the same instrumented libraries.
-target_link_options(quorvant-headless PRIVATE -fsanitize=address,undefined)
+# The driver makes the seed corpus; it and any other program of this build
+# folder link the instrumented libraries and so the sanitizers' runtime.
+foreach(programm quorvant-headless quorvant quorvant_tests quorvant_sdl_tests quorvant_bench)
+  if(TARGET ${programm})
+    target_link_options(${programm} PRIVATE -fsanitize=address,undefined)
+  endif()
+endforeach()
 
 add_executable(quorvant_fuzz_spielstand tests/fuzz/spielstand_fuzz.cpp)
 target_compile_options(quorvant_fuzz_spielstand PRIVATE ${QUORVANT_FUZZ_FLAGS})
@@ -30,8 +35,9 @@ target_link_libraries(quorvant_fuzz_spielstand PRIVATE quorvant_headless quorvan
 # Seed corpus: real saved games that the driver plays, made fresh at build time.
 set(QUORVANT_FUZZ_KORPUS ${CMAKE_BINARY_DIR}/fuzz-korpus)
 add_custom_command(
-  OUTPUT ${QUORVANT_FUZZ_KORPUS}/.fertig
+  OUTPUT ${CMAKE_BINARY_DIR}/fuzz-korpus.fertig
   COMMAND bash ${CMAKE_SOURCE_DIR}/tests/fuzz/korpus.sh $<TARGET_FILE:quorvant-headless> ${QUORVANT_FUZZ_KORPUS}
+  COMMAND ${CMAKE_COMMAND} -E touch ${CMAKE_BINARY_DIR}/fuzz-korpus.fertig
   DEPENDS quorvant-headless ${CMAKE_SOURCE_DIR}/tests/fuzz/korpus.sh
   COMMENT "Saved games for the fuzz corpus")
-add_custom_target(quorvant_fuzz_korpus ALL DEPENDS ${QUORVANT_FUZZ_KORPUS}/.fertig)
+add_custom_target(quorvant_fuzz_korpus ALL DEPENDS ${CMAKE_BINARY_DIR}/fuzz-korpus.fertig)
