@@ -48,3 +48,17 @@ TEST(SpielstandFuzz, HaendlerOhneNahenPlanetenBleibtStehen) {
         EXPECT_EQ(t.s->Schiffe(h).Zustand, ZUSTAND_RUHT) << h;
     }
 }
+
+TEST(SpielstandFuzz, TankAusserhalbJederZahlWirdAbgelehnt) {
+    // Found by the fuzzer: a free slot whose fuel no whole number can hold
+    // broke the check that was to refuse it.
+    Spiel s = NeuesSpielZustand(1, 1000);
+    s.Schiffe(810).Treibstoff = -1.70141e38f;
+    TestSpiel t(Tasten());
+    EXPECT_FALSE(LadenUndSpielen(t, SPIELSTAND_BYTES(s)));
+    std::string wo;
+    EXPECT_FALSE(SPIELSTAND_PRUEFEN(s, wo));
+    EXPECT_EQ(wo, "Schiffe(810).Treibstoff = 0");
+    s.Schiffe(810).Treibstoff = 12.5f;  // an old value in a free slot is no harm
+    EXPECT_TRUE(SPIELSTAND_PRUEFEN(s, wo)) << wo;
+}

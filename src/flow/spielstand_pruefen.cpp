@@ -81,8 +81,8 @@ bool SPIELSTAND_PRUEFEN(const Spiel& s, std::string& wo) {
         p.pruefen(sch.Planet >= 0 && sch.Planet <= MAX_PLANETEN, p.schiff(i, "Planet"), sch.Planet);
         p.pruefen(sch.StartPlanet >= -MAX_PLANETEN && sch.StartPlanet <= MAX_PLANETEN, p.schiff(i, "StartPlanet"),
                   sch.StartPlanet);
-        p.pruefen(std::isfinite(sch.Treibstoff) && std::fabs(sch.Treibstoff) <= 1000.0f, p.schiff(i, "Treibstoff"),
-                  static_cast<long>(std::isfinite(sch.Treibstoff) ? sch.Treibstoff : 0));
+        const bool tankGut = std::isfinite(sch.Treibstoff) && std::fabs(sch.Treibstoff) <= 1000.0f;
+        p.pruefen(tankGut, p.schiff(i, "Treibstoff"), tankGut ? static_cast<long>(sch.Treibstoff) : 0);
         if (IstFrei(sch)) continue;
         p.pruefen(sch.Laderaum >= 0 && sch.Laderaum <= LADERAUM_GRENZE, p.schiff(i, "Laderaum"), sch.Laderaum);
         p.pruefen(sch.Ladung >= -LADERAUM_GRENZE && sch.Ladung <= LADERAUM_GRENZE, p.schiff(i, "Ladung"), sch.Ladung);
