@@ -3,7 +3,7 @@
 set -euo pipefail
 PAKETE=(build-essential cmake pkg-config libsdl2-dev libsdl2-mixer-dev libfreetype-dev
         libfontconfig-dev libpng-dev fonts-liberation2 timgm6mb-soundfont
-        libgtest-dev libbenchmark-dev
+        libgtest-dev libbenchmark-dev clang-14 libclang-rt-14-dev
         dpkg-dev fakeroot file desktop-file-utils appstream groff-base gzip)
 fehlend=()
 for p in "${PAKETE[@]}"; do

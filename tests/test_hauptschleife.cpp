@@ -93,6 +93,8 @@ TEST(Hauptschleife, SpielBeendenDialog) {
 TEST(Hauptschleife, BeendenMitSichernSpeichertAmRundenende) {
     Runde r("key E\nkey ENTER\nkey ENTER\nkey ENTER\nkey W\nkey ENTER\ntype Spiel1\nkey ENTER");
     r.s->AnzahlPlaneten = 500;  // the loader takes only a game with a galaxy in play
+    for (int n = 11; n <= 510; ++n) r.s->Dokument(n).Ware = 1;  // whose planets produce goods
+    for (int h = HAENDLER_ERSTES; h <= HAENDLER_LETZTES; ++h) r.s->Schiffe(h).Planet = 11;  // and merchants sail
     r.spielen();
     for (const char* t : {"Am Ende der Runde wird gespeichert.", "Spiel erfolgreich gespeichert.", "Auf Wiedersehen!"})
         EXPECT_TRUE(r.gedruckt(t)) << t;

@@ -2,6 +2,8 @@
 // player reads why, the new-game dialog follows, and the file stays as it was.
 #include <unistd.h>
 
+#include <cmath>
+
 #include "hilfe.h"
 
 namespace {
@@ -34,6 +36,18 @@ TEST(SpielstandPruefen, WerteAusserhalbDerTabellenWerdenAbgelehnt) {
         {"KomponentenPlanet(3) = 1020", [](Spiel& s) { s.KomponentenPlanet(3) = 1020; }},
         {"Komponenten = 6", [](Spiel& s) { s.Komponenten = 6; }},
         {"Schiffe(1011).Planet = 2", [](Spiel& s) { s.Schiffe(PIRATEN_HQ).Planet = 2; }},
+        {"Schiffe(1007).Planet = 0", [](Spiel& s) { s.Schiffe(1007).Planet = 0; }},
+        // Values that pick no table entry but that no game can have, and that
+        // the year would turn into overflows or false owners.
+        {"Schiffe(2).Besitzer = 3", [](Spiel& s) { s.Schiffe(2).Besitzer = 3; }},
+        {"Schiffe(1).Zustand = 7", [](Spiel& s) { s.Schiffe(1).Zustand = 7; }},
+        {"Schiffe(4).Treibstoff = 0", [](Spiel& s) { s.Schiffe(4).Treibstoff = std::nanf(""); }},
+        {"Dokument(20).Ware = 0", [](Spiel& s) { s.Dokument(20).Ware = 0; }},
+        {"Jahr = 2147483647", [](Spiel& s) { s.Jahr = 2147483647; }},
+        {"Dokument(31).X = 30000", [](Spiel& s) { s.Dokument(31).X = 30000; }},
+        {"Schiffe(1).Laderaum = 32000", [](Spiel& s) { s.Schiffe(1).Laderaum = 32000; }},
+        {"Bargeld(2) = -2147483648", [](Spiel& s) { s.Bargeld(2) = -2147483647 - 1; }},
+        {"Kredit(1) = -5", [](Spiel& s) { s.Kredit(1) = -5; }},
     };
     for (const Fall& f : faelle) {
         Spiel s = gut;

@@ -53,11 +53,12 @@ void Abgeben(Schiff& sch, long menge) {
 void Davonsegeln(Spiel& s, int h) {
     Schiff& hsz = s.Schiffe(h);
     if (s.AnzahlPlaneten <= 0) return;
-    int z = 0, d = 0;
+    int z = 0, d = 0, zuege = 0;
     do {
         z = static_cast<int>(ZufallGanz(s, 11, s.AnzahlPlaneten + 10));
         d = ENTFERNUNG(s, hsz.Planet, z);
-    } while (!(d < 41 && z != hsz.Planet));
+    } while (!(d < 41 && z != hsz.Planet) && ++zuege < HAENDLER_ZUEGE);
+    if (zuege == HAENDLER_ZUEGE) return;  // nothing near: it stays
     hsz.Zustand = ZUSTAND_FLIEGT;
     hsz.Dauer = static_cast<Integer>(d);
     hsz.Planet = static_cast<Integer>(z);

@@ -76,6 +76,10 @@ inline constexpr int SPIELER_MAX = 6;
 
 // A merchant ship is called HSZ 2 to HSZ 7: its slot minus 1003.
 inline int HaendlerNummer(int slot) { return slot - (HAENDLER_ERSTES - 2); }
+// Draws a merchant makes for a planet near enough before it stays where it
+// is: far more than any star map needs, but a map without a near planet
+// cannot hold the year up.
+inline constexpr int HAENDLER_ZUEGE = 100000;
 
 // --- inventions: the columns of Forschung ---------------------------------------------
 enum ErfindungNr : int {

@@ -170,11 +170,13 @@ void HAENDLER_JAHR(Spiel& s) {
             continue;
         }
         if (!(Rnd(s) < 0.2f) || s.AnzahlPlaneten <= 0) continue;
-        int z, d;
+        // A merchant with no planet near enough stays where it is this year.
+        int z = 0, d = 0, zuege = 0;
         do {
             z = static_cast<int>(Rnd(s) * s.AnzahlPlaneten + 11);
             d = ENTFERNUNG(s, h.Planet, z);
-        } while (!(d < 31 && z != h.Planet));
+        } while (!(d < 31 && z != h.Planet) && ++zuege < HAENDLER_ZUEGE);
+        if (zuege == HAENDLER_ZUEGE) continue;
         h.Zustand = ZUSTAND_FLIEGT;
         h.Dauer = static_cast<Integer>(d);
         h.Planet = static_cast<Integer>(z);
