@@ -133,6 +133,7 @@ TEST(Katastrophen, StreikBisZurGrenze) {
 TEST(JahresendeSzenario, MillionaerZahltSteuer) {
     Spiel s = RuhigesSpiel(1, 30);
     s.Bargeld(1) = 2000000, s.EreignisJahre(EREIGNIS_STEUER) = 1;
+    s.Kredit(1) = 10000;  // the bank books after the guild: the tax is on the full two millions
     const TreiberLauf lauf = GeladenSpielen(s, "", "millionaer");
     const Spiel g = ZustandAus(lauf);
     Zeilen news = NewsAb(lauf, "65535\tDie Gilde ernennt");
@@ -140,7 +141,8 @@ TEST(JahresendeSzenario, MillionaerZahltSteuer) {
     EXPECT_EQ(news, (Zeilen{"65535\tDie Gilde ernennt Spieler1 zum ", "65535\t   Handelstreiber!",
                             "65535\tHerzlichen Glückwunsch Spieler1!", "65535\t   Sie sind Millionär!",
                             "255\tEs waren wieder 10% Steuern auf das", "255\tBarvermögen fällig!"})) << lauf.screen;
-    EXPECT_TRUE(g.Rang(1) == 2 && g.Bargeld(1) == 1800000 && g.Statistik(EST_STEUERN, 2) == 200000);
+    EXPECT_EQ(g.Bargeld(1), 2000000 - 200000 - 50 - 100) << "tax, then repayment and interest";
+    EXPECT_TRUE(g.Rang(1) == 2 && g.Kredit(1) == 9950 && g.Statistik(EST_STEUERN, 2) == 200000);
     EXPECT_TRUE(g.Forschung(FORSCHUNG_MILLIONAER, 1) == -1 && g.EreignisJahre(EREIGNIS_STEUER) == 20);
     EXPECT_NE(lauf.trace.find("DTWQuorvant.mid"), std::string::npos);
 }
