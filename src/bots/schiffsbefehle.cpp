@@ -96,9 +96,9 @@ bool Computerspieler::handelsschiff(int nr, const std::vector<std::string>& l) {
         taste("ENTER");
         return true;
     }
-    const bool lohnt = pl.Ware >= 1 && pl.Ware <= ANZAHL_WAREN && s_.Preis(pl.Ware) > pl.Preis;
+    const bool lohnt = Lohnend(s_, pl.Ware, pl.Preis);
     const std::string geladen = std::string("lade").append(std::to_string(nr));
-    if (Da(l, P_VOM_PLANETEN) && lohnt && geld >= 10L * pl.Preis + RESERVE && !erledigt_.count(geladen)) {
+    if (Da(l, P_VOM_PLANETEN) && lohnt && geld >= 10L * pl.Preis + 60 && !erledigt_.count(geladen)) {
         erledigt_.insert(geladen);
         angewiesen_.erase(nr);  // and then on its way
         befehl(nr, l, P_VOM_PLANETEN);
@@ -116,7 +116,7 @@ bool Computerspieler::handelsschiff(int nr, const std::vector<std::string>& l) {
             const Planet& z = s_.Dokument(t);
             if (t == hier || t == hq || t > s_.AnzahlPlaneten + 10 || ziele_.count(t)) continue;
             const bool neu = z.Produktion == 0;
-            const bool ware = z.Bestand >= 300 && z.Ware >= 1 && z.Ware <= ANZAHL_WAREN && s_.Preis(z.Ware) > z.Preis;
+            const bool ware = z.Bestand >= 300 && Lohnend(s_, z.Ware, z.Preis);
             if (!neu && !ware) continue;
             const long d = ENTFERNUNG(s_, hier, t);
             if (d < weg && erreichbar(nr, hier, t, true)) {

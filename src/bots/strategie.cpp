@@ -90,8 +90,10 @@ bool Computerspieler::verkaufen() {
         if (!erste) erste = g;
     }
     for (int g = 1; g <= ANZAHL_WAREN; ++g) {
-        // A price fallen below half waits for the demand to come back, unless the store is full.
-        if (liste[static_cast<size_t>(g)].empty() || (2 * s_.Preis(g) < s_.GrundPreis(g) && s_.Lager(g, p) < 300)) continue;
+        // One sale sinks the demand for years: a good waits for its starting price to come back,
+        // unless the store is full or the house needs the cash.
+        const bool warten = 4 * s_.Preis(g) < 3 * s_.GrundPreis(g) && s_.Lager(g, p) < 300 && s_.Bargeld(p) > 300;
+        if (liste[static_cast<size_t>(g)].empty() || warten) continue;
         if (!erledigt_.insert(std::string("verkauf").append(std::to_string(g))).second) continue;
         menue("V");
         auswahlGehen(liste, erste, g);
@@ -104,18 +106,21 @@ bool Computerspieler::verkaufen() {
 
 bool Computerspieler::kreditRegeln() {
     const int p = s_.AktSpieler;
-    if (s_.Bargeld(p) < 200 && s_.Kredit(p) <= 4000 && erledigt_.insert("kredit").second) {
+    // Trade earns little and interest is paid every year: the bank lends only what keeps
+    // the ships flying, a few tanks of fuel and a first load.
+    if (s_.Bargeld(p) < 100 && s_.Kredit(p) < 3000 && erledigt_.insert("kredit").second) {
         menue("K");
         taste("ENTER");
-        tippen(std::to_string(std::min(1000, 10000 - s_.Kredit(p))));
+        tippen(std::to_string(std::min<Long>(400 - s_.Bargeld(p), 10000 - s_.Kredit(p))));
         taste("ENTER");
         return true;
     }
-    if (s_.Kredit(p) > 0 && s_.Bargeld(p) > s_.Kredit(p) + 3000 && erledigt_.insert("kredit").second) {
+    // Interest eats 1.5 % a year: what is beyond a working reserve pays the debt back.
+    if (s_.Kredit(p) > 0 && s_.Bargeld(p) > 1500 && erledigt_.insert("kredit").second) {
         menue("K");
         taste("DOWN");
         taste("ENTER");
-        tippen(std::to_string(s_.Kredit(p)));
+        tippen(std::to_string(std::min<Long>(s_.Kredit(p), s_.Bargeld(p) - 1000)));
         taste("ENTER");
         return true;
     }
@@ -151,9 +156,9 @@ bool Computerspieler::docks() {
     }
     const int raum = ErstesAufSol(s_, p, [&](const Schiff& sch) { return sch.Laderaum < LADERAUM_GRENZE(s_, sch, p); });
     // Holds grow with the house: a small one is filled by a tour through a system.
-    if (raum && s_.Schiffe(raum).Laderaum < 30 + 30 * s_.Rang(p) && geld > 1000 + RESERVE) {
+    if (raum && s_.Schiffe(raum).Laderaum < 60 + 30 * s_.Rang(p) && geld > 200 + RESERVE) {
         const Schiff& sch = s_.Schiffe(raum);
-        const long n = std::min<long>({LADERAUM_GRENZE(s_, sch, p) - sch.Laderaum, 20, (geld - RESERVE) / 10});
+        const long n = std::min<long>({LADERAUM_GRENZE(s_, sch, p) - sch.Laderaum, 30, (geld - RESERVE) / 10});
         menue("D");
         for (int i = 1; i < AUFTRAG_LADERAUM; ++i) taste("UP");
         taste("ENTER");
@@ -189,9 +194,10 @@ bool Computerspieler::docks() {
     const int rang = s_.Rang(p);
     int typ = 0;
     const int frachter = anzahl(p, TYP_FRACHTER), kreuzer = anzahl(p, TYP_KREUZER);
+    // Only freighters earn: escorts and scouts come when the house can feed them.
     if (frachter < 2) typ = NR_FRACHTER;
-    else if (kreuzer < 1) typ = NR_KREUZER;
-    else if (anzahl(p, TYP_SCOUT) < 1) typ = NR_SCOUT;
+    else if (kreuzer < 1 && geld > 2500) typ = NR_KREUZER;
+    else if (anzahl(p, TYP_SCOUT) < 1 && geld > 3000) typ = NR_SCOUT;
     else if (frachter < std::min(1 + 2 * rang, 14) && geld > 2500) typ = NR_FRACHTER;
     else if (kreuzer < std::min(1 + rang / 2 + piraten / 15, 6) && geld > 2000) typ = NR_KREUZER;
     else if (anzahl(p, TYP_STATION) < 1 && geld > 4000) typ = NR_STATION;

@@ -4,6 +4,7 @@
 #include <string>
 #include <vector>
 
+#include "state/codes.h"
 #include "state/spiel.h"
 
 namespace bots {
@@ -16,6 +17,12 @@ enum Platz : int {
 
 // Cash a house keeps back from every purchase.
 inline constexpr Long RESERVE = 600;
+
+// Whether a good bought at a planet's price pays its way home: the market must
+// give half again and a little, since one sale sinks its price for years.
+inline bool Lohnend(const Spiel& s, int ware, int planetPreis) {
+    return ware >= 1 && ware <= ANZAHL_WAREN && 2L * s.Preis(ware) >= 3L * planetPreis + 6;
+}
 
 inline int System(int planet) { return (planet - 1) / 10; }
 // Whether the order menu offers this place.

@@ -130,7 +130,7 @@ int Computerspieler::handelsziel(int nr, int von) {
         if (pl.Produktion == 0 || t == hq || t == von || ziele_.count(t) || pl.Ware < 1 || pl.Ware > ANZAHL_WAREN) continue;
         const long menge = std::min<long>(pl.Bestand / 100, frei);
         const long marge = s_.Preis(pl.Ware) - pl.Preis;
-        if (menge < 3 || marge <= 0) continue;
+        if (menge < 3 || !Lohnend(s_, pl.Ware, pl.Preis)) continue;
         const double w = static_cast<double>(marge * menge) / (2.0 * abstand_[static_cast<size_t>(t)] + 1.0);
         if (w > wert && erreichbar(nr, von, t, true)) {
             wert = w;
