@@ -113,6 +113,30 @@ TEST(Computerspieler, SpielenSichernUndGleichesSpielBeiGleicherSaat) {
     EXPECT_GT(schiffe, 2) << "the houses have built ships";
 }
 
+// Stations towed out and kept filled by tankers carry the houses beyond the
+// reach of one tank from Sol III.
+TEST(Computerspieler, StationenTragenDieSchiffeWeiterAlsEinTank) {
+    const std::string ordner = TempOrdner("bots-netz");
+    const Lauf a = Bots("--bots 2 --years 150 --systems 50 --seed 2 --check --report " + ordner + "/n.csv --state " + ordner + "/n.bin");
+    ASSERT_EQ(a.status, 0) << a.ausgabe;
+    const std::string zustand = Lesen(ordner + "/n.bin");
+    const auto s = std::make_unique<Spiel>();
+    std::string fehler;
+    ASSERT_TRUE(SPIELSTAND_LESEN(*s, std::vector<uint8_t>(zustand.begin(), zustand.end()), fehler)) << fehler;
+    int gefuellt = 0, fern = 0;
+    for (int i = 1; i <= s->HoechstesSchiff; ++i) {
+        const Schiff& sch = s->Schiffe(i);
+        if (IstFrei(sch) || !IstSpielerBesitz(sch)) continue;
+        if (IstStation(sch) && sch.Planet > SOL_III && sch.Fracht(FRACHT_SPRIT) > 0) ++gefuellt;
+        // Out and home again on one tank reaches 14 units; beyond that only over a station.
+        if (!IstStation(sch) && sch.Zustand == ZUSTAND_RUHT && ENTFERNUNG(*s, SOL_III, sch.Planet) > 14) ++fern;
+    }
+    EXPECT_GE(gefuellt, 1) << "a station out in space with tank units";
+    const std::string bericht = Lesen(ordner + "/n.csv");
+    EXPECT_NE(bericht.find(",stationen_draussen,handel,geraete,portale,erstlandungen,"), std::string::npos);
+    EXPECT_GE(fern, 1) << "a ship resting beyond the reach of Sol III";
+}
+
 TEST(Computerspieler, FalscheAngabenWerdenAbgewiesen) {
     EXPECT_EQ(Bots("--bots 7 --years 1").status, 2);
     EXPECT_EQ(Bots("--bots 2").status, 2);

@@ -171,8 +171,9 @@ void Computerspieler::jahrBeendet() {
         const std::string f = INVARIANTEN_PRUEFEN(s_);
         if (!f.empty()) abbrechen("Jahr " + std::to_string(s_.Jahr) + ": " + f);
     }
-    if (bericht_.is_open()) bericht_ << BERICHT_ZEILE(s_, gebaut_);
+    if (bericht_.is_open()) bericht_ << BERICHT_ZEILE(s_, gebaut_, aktionenGezaehlt_);
     if (spur_) {
+        for (int m = 1; m <= s_.MeldungAnzahl; ++m) std::fprintf(stderr, "  | %s\n", s_.MeldungText(m).c_str());
         std::fprintf(stderr, "== %ld: Bargeld %d Kredit %d Lager", static_cast<long>(s_.Jahr), s_.Bargeld(1), s_.Kredit(1));
         for (int g = 1; g <= 20; ++g) std::fprintf(stderr, " %d", s_.Lager(g, 1));
         std::fprintf(stderr, "\n");

@@ -31,7 +31,7 @@ std::string INVARIANTEN_PRUEFEN(const Spiel& s);
 
 // The figures of one year for the report.
 std::string BERICHT_KOPF(int spieler);
-std::string BERICHT_ZEILE(const Spiel& s, const std::vector<long>& gebaut);
+std::string BERICHT_ZEILE(const Spiel& s, const std::vector<long>& gebaut, const std::map<std::string, long>& aktionen);
 
 class Computerspieler {
 public:
@@ -86,11 +86,24 @@ private:
     bool tanker(int nr, const std::vector<std::string>& l);
     bool station(int nr, const std::vector<std::string>& l);
     void befehl(int nr, const std::vector<std::string>& l, int platz);
-    int erkundungsziel(int nr, int von);
-    int handelsziel(int nr, int von);
-    int piratenziel(int nr, int von);
-    bool erreichbar(int nr, int von, int ziel, bool zurueck) const;
+    bool tanken(int nr, const std::vector<std::string>& l);
+    bool fliegen(int nr, const std::vector<std::string>& l, int ziel, long rueck);
+    bool heimwaerts(int nr, const std::vector<std::string>& l);
+    int erkundungsziel(int nr);
+    int handelsziel(int nr);
+    int haendlerziel(int nr);
+    int piratenziel(int nr);
+    bool direkt(int nr, int ziel) const;
     int anzahl(int p, const char* typ) const;
+
+    // --- the fuel network (Sol III and the stations holding tank units) ---
+    long weite(const Schiff& sch, double sprit) const;
+    void netzAufbauen();
+    bool tankstelle(int planet) const;
+    long rueckweg(int planet) const;
+    int halt(int nr, int ziel, long rueck) const;
+    const std::vector<long>& karte(long reichweite);
+    int standort();
     uint32_t wuerfel(uint32_t n);
 
     // --- watching ---
@@ -117,8 +130,14 @@ private:
     std::set<std::string> erledigt_;  // kinds of action done this turn
     std::set<int> angewiesen_;        // ships given an order (or passed over) this turn
     std::set<int> ziele_;             // planets some ship flies to, or was sent to this turn
-    std::vector<int> nah_;            // planets in reach of Sol III, nearest first
-    std::vector<long> abstand_;       // distance of each planet from Sol III
+    std::set<int> getankt_;           // ships filled this turn
+    std::vector<long> vonSol_;        // distance of each planet from Sol III
+
+    // the fuel network of this turn, and for each reach the way to every planet
+    std::vector<int> knoten_;
+    std::vector<long> abstaende_;
+    std::map<long, std::vector<long>> karten_;
+    std::map<int, int> schlepp_;  // a coupled station and the planet it is towed to
 
     // a ship ordered from the docks, counted once it is there
     int bauTyp_ = 0;

@@ -47,20 +47,16 @@ void Computerspieler::zugPlanen() {
         erledigt_.clear();
         angewiesen_.clear();
         ziele_.clear();
+        getankt_.clear();
         for (int i = 1; i <= s_.HoechstesSchiff; ++i) {
             const Schiff& sch = s_.Schiffe(i);
             if (!IstFrei(sch) && sch.Zustand == ZUSTAND_FLIEGT) ziele_.insert(sch.Planet);
         }
-        if (nah_.empty()) {
-            // The planets a ship can reach from Sol III and come back, nearest first.
-            abstand_.assign(static_cast<size_t>(s_.AnzahlPlaneten) + 11, 0);
-            for (int t = 11; t <= s_.AnzahlPlaneten + 10; ++t) {
-                abstand_[static_cast<size_t>(t)] = ENTFERNUNG(s_, SOL_III, t);
-                if (abstand_[static_cast<size_t>(t)] <= 38) nah_.push_back(t);
-            }
-            std::stable_sort(nah_.begin(), nah_.end(),
-                             [this](int a, int b) { return abstand_[static_cast<size_t>(a)] < abstand_[static_cast<size_t>(b)]; });
+        if (vonSol_.empty()) {
+            vonSol_.assign(static_cast<size_t>(s_.AnzahlPlaneten) + 11, 0);
+            for (int t = 11; t <= s_.AnzahlPlaneten + 10; ++t) vonSol_[static_cast<size_t>(t)] = ENTFERNUNG(s_, SOL_III, t);
         }
+        netzAufbauen();
     }
     if (++aktionen_ <= AKTIONEN_JE_ZUG) {
         const long jahr = s_.Jahr - 2000;
@@ -106,21 +102,21 @@ bool Computerspieler::verkaufen() {
 
 bool Computerspieler::kreditRegeln() {
     const int p = s_.AktSpieler;
-    // Trade earns little and interest is paid every year: the bank lends only what keeps
-    // the ships flying, a few tanks of fuel and a first load.
-    if (s_.Bargeld(p) < 100 && s_.Kredit(p) < 3000 && erledigt_.insert("kredit").second) {
+    // Trade earns little and interest is paid every year, debt or not: the bank bridges
+    // a short purse with a few tanks of fuel, once, and is paid back first.
+    if (s_.Bargeld(p) < 60 && s_.Bargeld(p) >= 0 && s_.Kredit(p) == 0 && erledigt_.insert("kredit").second) {
         menue("K");
         taste("ENTER");
-        tippen(std::to_string(std::min<Long>(400 - s_.Bargeld(p), 10000 - s_.Kredit(p))));
+        tippen(std::to_string(300 - s_.Bargeld(p)));
         taste("ENTER");
         return true;
     }
     // Interest eats 1.5 % a year: what is beyond a working reserve pays the debt back.
-    if (s_.Kredit(p) > 0 && s_.Bargeld(p) > 1500 && erledigt_.insert("kredit").second) {
+    if (s_.Kredit(p) > 0 && s_.Bargeld(p) > 400 && erledigt_.insert("kredit").second) {
         menue("K");
         taste("DOWN");
         taste("ENTER");
-        tippen(std::to_string(std::min<Long>(s_.Kredit(p), s_.Bargeld(p) - 1000)));
+        tippen(std::to_string(std::min<Long>(s_.Kredit(p), s_.Bargeld(p) - 100)));
         taste("ENTER");
         return true;
     }
@@ -131,9 +127,11 @@ bool Computerspieler::forschen() {
     const int p = s_.AktSpieler;
     bool offen = false;
     for (int k = 1; k <= ANZAHL_ERFINDUNGEN; ++k) offen = offen || s_.Forschung(k, p) == 0;
-    if (!offen || s_.Bargeld(p) < 3000 || s_.Kredit(p) > 0 || !erledigt_.insert("forschung").second) return false;
+    // Cash loses a tenth to the tax every twenty years; what the house does not need goes to research.
+    const Long vorrat = 5000 + 1500L * s_.Rang(p);
+    if (!offen || s_.Bargeld(p) < vorrat + 1000 || s_.Kredit(p) > 0 || !erledigt_.insert("forschung").second) return false;
     menue("F");
-    tippen(std::to_string(s_.Bargeld(p) / 5));
+    tippen(std::to_string((s_.Bargeld(p) - vorrat) / 2));
     taste("ENTER");
     return true;
 }
@@ -155,8 +153,8 @@ bool Computerspieler::docks() {
         return true;
     }
     const int raum = ErstesAufSol(s_, p, [&](const Schiff& sch) { return sch.Laderaum < LADERAUM_GRENZE(s_, sch, p); });
-    // Holds grow with the house: a small one is filled by a tour through a system.
-    if (raum && s_.Schiffe(raum).Laderaum < 60 + 30 * s_.Rang(p) && geld > 200 + RESERVE) {
+    // Holds grow once the house has cash to spare: a tanker's to a full load for a station.
+    if (raum && geld > 2000 + 10L * s_.Schiffe(raum).Laderaum + RESERVE) {
         const Schiff& sch = s_.Schiffe(raum);
         const long n = std::min<long>({LADERAUM_GRENZE(s_, sch, p) - sch.Laderaum, 30, (geld - RESERVE) / 10});
         menue("D");
@@ -192,17 +190,25 @@ bool Computerspieler::docks() {
     int piraten = 0;
     for (int i = 1; i <= s_.HoechstesSchiff; ++i) piraten += IstPirat(s_.Schiffe(i)) && !IstFrei(s_.Schiffe(i)) ? 1 : 0;
     const int rang = s_.Rang(p);
+    const int frachter = anzahl(p, TYP_FRACHTER), kreuzer = anzahl(p, TYP_KREUZER), scouts = anzahl(p, TYP_SCOUT);
+    const int stationen = anzahl(p, TYP_STATION), tanker = anzahl(p, TYP_TANKER);
+    // A station waiting at home for its freighter, or one still in the yard, is enough on the way.
+    bool stationWartet = ErstesAufSol(s_, p, [](const Schiff& sch) { return IstStation(sch) && sch.Partner == 0; }) != 0;
+    for (int k = 1; k <= plaetze; ++k) stationWartet = stationWartet || (s_.DockSchiffe(k, p) > 0 && IstStation(s_.Schiffe(s_.DockSchiffe(k, p))));
+    const int hq = s_.Schiffe(PIRATEN_HQ).Planet;
+    const bool hqNah = hq > 0 && rueckweg(hq) <= 14;
     int typ = 0;
-    const int frachter = anzahl(p, TYP_FRACHTER), kreuzer = anzahl(p, TYP_KREUZER);
-    // Only freighters earn: escorts and scouts come when the house can feed them.
-    if (frachter < 2) typ = NR_FRACHTER;
-    else if (kreuzer < 1 && geld > 2500) typ = NR_KREUZER;
-    else if (anzahl(p, TYP_SCOUT) < 1 && geld > 3000) typ = NR_SCOUT;
-    else if (frachter < std::min(1 + 2 * rang, 14) && geld > 2500) typ = NR_FRACHTER;
-    else if (kreuzer < std::min(1 + rang / 2 + piraten / 15, 6) && geld > 2000) typ = NR_KREUZER;
-    else if (anzahl(p, TYP_STATION) < 1 && geld > 4000) typ = NR_STATION;
-    else if (anzahl(p, TYP_TANKER) < 1 && anzahl(p, TYP_STATION) > 0) typ = NR_TANKER;
-    else if (Erfunden(s_, ERF_GROSSFRACHTER, p) && anzahl(p, TYP_GROSSFRACHTER) < 1 + rang / 3 && geld > 25000) typ = NR_GROSSFRACHTER;
+    // The first station opens the way out, a tanker keeps it filled, a cruiser earns
+    // the pirates' prizes; a second freighter and a scout follow.
+    if (frachter < 1) typ = NR_FRACHTER;
+    else if (!stationWartet && standort() && stationen < 1 + rang + s_.Komponenten) typ = NR_STATION;
+    else if (stationen > 0 && tanker < std::min(1 + stationen / 3, 4)) typ = NR_TANKER;
+    else if (kreuzer < std::min(1 + (hqNah ? 3 : 0) + piraten / 20, 6) && geld > 2500) typ = NR_KREUZER;
+    else if (frachter < 2) typ = NR_FRACHTER;
+    else if (scouts < 1 && geld > 1200) typ = NR_SCOUT;
+    else if (frachter < std::min(2 + 2 * rang, 14) && geld > 2500) typ = NR_FRACHTER;
+    else if (scouts < 2 && stationen > 1 && geld > 3000) typ = NR_SCOUT;
+    else if (Erfunden(s_, ERF_GROSSFRACHTER, p) && anzahl(p, TYP_GROSSFRACHTER) < 1 + rang / 3 && geld > 15000) typ = NR_GROSSFRACHTER;
     if (typ == 0 || geld < s_.SchiffPreis(typ) + RESERVE) return false;
     menue("D");
     taste("ENTER");  // Bauen
@@ -223,24 +229,14 @@ void Computerspieler::baueZaehlen() {
 bool Computerspieler::schiffVerkaufen() {
     const int p = s_.AktSpieler;
     if (erledigt_.count("verkauf")) return false;
-    // A wreck at home that the house can't afford to mend, or a second scout;
-    // in debt the dearest ship at home but the last freighter, to fly again.
-    const bool schulden = s_.Bargeld(p) < 0;
-    int teuerstes = 0;
-    if (schulden) {
-        for (int i = 1; i <= s_.HoechstesSchiff; ++i) {
-            const Schiff& sch = s_.Schiffe(i);
-            if (sch.Besitzer != p || !SCHIFF_VERKAEUFLICH(s_, i)) continue;
-            if (IstFrachter(sch) && anzahl(p, TYP_FRACHTER) < 2) continue;
-            if (!teuerstes || SCHIFF_WERT(s_, i) > SCHIFF_WERT(s_, teuerstes)) teuerstes = i;
-        }
-    }
+    // A wreck at home that the house can't afford to mend, or a second scout. Debts alone
+    // sell nothing: the house earns its way out with its ships.
     for (int i = 1; i <= s_.HoechstesSchiff; ++i) {
         const Schiff& sch = s_.Schiffe(i);
         if (sch.Besitzer != p || !SCHIFF_VERKAEUFLICH(s_, i)) continue;
         const bool wrack = sch.Schaden >= 60 && s_.Bargeld(p) < 80L * sch.Schaden;
-        const bool zuviel = IstScout(sch) && anzahl(p, TYP_SCOUT) > 1;
-        if (!wrack && !zuviel && i != teuerstes) continue;
+        const bool zuviel = IstScout(sch) && anzahl(p, TYP_SCOUT) > 2;
+        if (!wrack && !zuviel) continue;
         erledigt_.insert("verkauf");
         menue("U");
         taste("SPACE");

@@ -1,7 +1,8 @@
 // Where a computer player sends a ship, and the keys that give the order:
 // the ship picked by its number, the place in the order menu, the target
-// walked to on the map.
+// walked to on the map; the way there goes from filling to filling.
 #include <algorithm>
+#include <cstdio>
 #include <string>
 
 #include "bots/computerspieler.h"
@@ -13,13 +14,39 @@
 
 using namespace bots;
 
+namespace {
+
+constexpr long UNERREICHBAR = 1L << 40;
+constexpr int VERSUCHE = 6;  // the best targets tried for a way there
+
+// The best targets first; `wert` 0 or less is no target.
+template <class Wert>
+std::vector<int> Bestenliste(const Spiel& s, const std::vector<long>& kosten, Wert wert) {
+    std::vector<std::pair<double, int>> liste;
+    for (int t = 11; t <= s.AnzahlPlaneten + 10; ++t) {
+        if (kosten[static_cast<size_t>(t)] >= UNERREICHBAR) continue;
+        const double w = wert(t, kosten[static_cast<size_t>(t)]);
+        if (w > 0) liste.emplace_back(-w, t);
+    }
+    const size_t n = std::min<size_t>(liste.size(), VERSUCHE);
+    std::partial_sort(liste.begin(), liste.begin() + static_cast<long>(n), liste.end());
+    std::vector<int> beste;
+    for (size_t i = 0; i < n; ++i) beste.push_back(liste[i].second);
+    return beste;
+}
+
+}  // namespace
+
 bool Computerspieler::schiffAnweisen() {
     const int p = s_.AktSpieler;
-    for (int i = 1; i <= s_.HoechstesSchiff; ++i) {
-        const Schiff& sch = s_.Schiffe(i);
-        if (IstFrei(sch) || sch.Besitzer != p || sch.Zustand < 0 || !angewiesen_.insert(i).second) continue;
-        if (anweisen(i)) return true;
-    }
+    // Stations first: they take the freighter that tows them before it leaves.
+    for (int runde = 0; runde < 2; ++runde)
+        for (int i = 1; i <= s_.HoechstesSchiff; ++i) {
+            const Schiff& sch = s_.Schiffe(i);
+            if (IstFrei(sch) || sch.Besitzer != p || sch.Zustand < 0 || IstStation(sch) != (runde == 0)) continue;
+            if (!angewiesen_.insert(i).second) continue;
+            if (anweisen(i)) return true;
+        }
     return false;
 }
 
@@ -49,6 +76,58 @@ void Computerspieler::befehl(int nr, const std::vector<std::string>& l, int plat
     while (von < 18 && !Da(l, von)) ++von;
     auswahlGehen(l, von, platz);
     taste("ENTER");
+}
+
+// A filling before the ship leaves a filling station; the ship gets its next order in the same turn.
+bool Computerspieler::tanken(int nr, const std::vector<std::string>& l) {
+    const Schiff& sch = s_.Schiffe(nr);
+    if (sch.Treibstoff >= sch.Tankgroesse || getankt_.count(nr)) return false;
+    if (Da(l, P_TANKEN_SOL) && s_.Bargeld(s_.AktSpieler) >= 30) {
+        befehl(nr, l, P_TANKEN_SOL);
+        taste("ENTER");
+        taste("ENTER");
+    } else if (Da(l, P_TANKEN_STATION)) {
+        befehl(nr, l, P_TANKEN_STATION);
+        taste("ENTER");
+    } else {
+        return false;
+    }
+    getankt_.insert(nr);
+    angewiesen_.erase(nr);
+    return true;
+}
+
+// On the way to `ziel`: filled up where there is fuel, then off to the next filling or the target.
+bool Computerspieler::fliegen(int nr, const std::vector<std::string>& l, int ziel, long rueck) {
+    if (ziel <= 0) return false;
+    if (tanken(nr, l)) return true;
+    if (!Da(l, P_START)) return false;
+    const int h = halt(nr, ziel, rueck);
+    if (h == 0) return false;
+    ziele_.insert(ziel);
+    if (spur_)
+        std::fprintf(stderr, "  > %d: %d -> %d (Ziel %d, rueck %ld) d=%d T=%.1f\n", nr, s_.Schiffe(nr).Planet, h, ziel, rueck,
+                     static_cast<int>(ENTFERNUNG(s_, s_.Schiffe(nr).Planet, h)), static_cast<double>(s_.Schiffe(nr).Treibstoff));
+    befehl(nr, l, P_START);
+    zielTasten(nr, h);
+    return true;
+}
+
+bool Computerspieler::heimwaerts(int nr, const std::vector<std::string>& l) {
+    if (fliegen(nr, l, SOL_III, 0)) return true;
+    // No way home from here: to the nearest filling, to wait for the next one.
+    const int hier = s_.Schiffe(nr).Planet;
+    if (tankstelle(hier)) return false;
+    int best = 0;
+    long weg = 1L << 30;
+    for (int k : knoten_) {
+        const long d = ENTFERNUNG(s_, hier, k);
+        if (d < weg) {
+            weg = d;
+            best = k;
+        }
+    }
+    return best && direkt(nr, best) && fliegen(nr, l, best, 0);
 }
 
 // The keys that walk the map's cursor from the ship's planet to the target.
@@ -87,74 +166,84 @@ void Computerspieler::zielTasten(int schiff, int ziel) {
     taste(z == ziel ? "ENTER" : "ESC");
 }
 
-bool Computerspieler::erreichbar(int nr, int von, int ziel, bool zurueck) const {
+// Whether the ship flies there on what is in its tank and still reaches a filling.
+bool Computerspieler::direkt(int nr, int ziel) const {
     const Schiff& sch = s_.Schiffe(nr);
-    long weg = ENTFERNUNG(s_, von, ziel);
-    if (zurueck) weg += ziel == SOL_III ? 0 : (von == SOL_III ? weg : ENTFERNUNG(s_, ziel, SOL_III));
-    double sprit = sch.Treibstoff;
-    if (IstGrossfrachter(sch)) sprit *= 2;
-    if (IstScout(sch)) sprit *= 2;
-    return weg + 1 <= sprit;
+    return ENTFERNUNG(s_, sch.Planet, ziel) + rueckweg(ziel) <= weite(sch, sch.Treibstoff);
 }
 
-int Computerspieler::erkundungsziel(int nr, int von) {
-    // The good of a system is known before anybody lands: dear goods, near home, first.
+int Computerspieler::erkundungsziel(int nr) {
+    // The good of a system is known before anybody lands: dear goods and far
+    // planets pay, the way there costs years.
+    const Schiff& sch = s_.Schiffe(nr);
     const int hq = s_.Schiffe(PIRATEN_HQ).Planet;
-    const Schiff& sch = s_.Schiffe(nr);
-    const double reichweite = sch.Treibstoff * (IstGrossfrachter(sch) || IstScout(sch) ? 2.0 : 1.0);
-    int best = 0;
-    double wert = 0;
-    for (int t : nah_) {
-        const long d = abstand_[static_cast<size_t>(t)];
-        if (2.0 * d + 1 > reichweite) break;
+    const bool traeger = IstHandelsschiff(sch);
+    const auto beste = Bestenliste(s_, karte(weite(sch, sch.Tankgroesse)), [&](int t, long kosten) {
         const Planet& pl = s_.Dokument(t);
-        if (pl.Produktion != 0 || t == hq || ziele_.count(t) || pl.Ware < 1 || pl.Ware > ANZAHL_WAREN) continue;
-        const double w = (s_.Preis(pl.Ware) - 3.0 * pl.Ware + 1.0) / (d + 3.0);
-        if (w > wert) {
-            wert = w;
-            best = t;
-        }
-    }
-    return best && erreichbar(nr, von, best, true) ? best : 0;
+        if (pl.Produktion != 0 || t == hq || ziele_.count(t) || pl.Ware < 1 || pl.Ware > ANZAHL_WAREN) return 0.0;
+        const double marge = std::max(0.0, s_.Preis(pl.Ware) - 3.0 * pl.Ware - 0.5);
+        const double wert = 2.0 * vonSol_[static_cast<size_t>(t)] + (traeger ? 6.5 * marge : 0.0) + 1.0;
+        return wert / (2.0 * kosten + 3.0);
+    });
+    for (int t : beste)
+        if (halt(nr, t, rueckweg(t))) return t;
+    return 0;
 }
 
-int Computerspieler::handelsziel(int nr, int von) {
+int Computerspieler::handelsziel(int nr) {
     const Schiff& sch = s_.Schiffe(nr);
     const int hq = s_.Schiffe(PIRATEN_HQ).Planet;
     const long frei = sch.Laderaum - sch.Ladung;
-    if (frei <= 0) return 0;
-    int best = 0;
-    double wert = 0;
-    for (int t : nah_) {
+    if (frei <= 2) return 0;
+    const auto beste = Bestenliste(s_, karte(weite(sch, sch.Tankgroesse)), [&](int t, long kosten) {
         const Planet& pl = s_.Dokument(t);
-        if (pl.Produktion == 0 || t == hq || t == von || ziele_.count(t) || pl.Ware < 1 || pl.Ware > ANZAHL_WAREN) continue;
+        if (pl.Produktion == 0 || t == hq || t == sch.Planet || ziele_.count(t) || pl.Ware < 1 || pl.Ware > ANZAHL_WAREN) return 0.0;
         const long menge = std::min<long>(pl.Bestand / 100, frei);
-        const long marge = s_.Preis(pl.Ware) - pl.Preis;
-        if (menge < 3 || !Lohnend(s_, pl.Ware, pl.Preis)) continue;
-        const double w = static_cast<double>(marge * menge) / (2.0 * abstand_[static_cast<size_t>(t)] + 1.0);
-        if (w > wert && erreichbar(nr, von, t, true)) {
-            wert = w;
-            best = t;
-        }
-    }
-    return best;
+        if (menge < 3 || !Lohnend(s_, pl.Ware, pl.Preis)) return 0.0;
+        return static_cast<double>((s_.Preis(pl.Ware) - pl.Preis) * menge) / (2.0 * kosten + 1.0);
+    });
+    for (int t : beste)
+        if (halt(nr, t, rueckweg(t))) return t;
+    return 0;
 }
 
-int Computerspieler::piratenziel(int nr, int von) {
+// A merchant in reach who gives more for the cargo than the market: he offers
+// first what the market does not know yet, else mostly the dearest good.
+int Computerspieler::haendlerziel(int nr) {
+    const Schiff& sch = s_.Schiffe(nr);
+    long tonnen = 0, wert = 0;
+    for (int g = 1; g <= ANZAHL_WAREN; ++g) {
+        tonnen += sch.Fracht(g);
+        wert += static_cast<long>(sch.Fracht(g)) * s_.Preis(g);
+    }
+    if (tonnen < 5) return 0;
+    int angebot = 0;
+    for (int g = 1; g <= ANZAHL_WAREN && !angebot; ++g)
+        if (s_.AltPreis(g) == -1) angebot = g;
+    if (!angebot)
+        for (int g = 1; g <= ANZAHL_WAREN; ++g)
+            if (!angebot || s_.Preis(g) >= s_.Preis(angebot)) angebot = g;
+    if (s_.Preis(angebot) * tonnen < wert + 20 * tonnen) return 0;
+    for (int h = HAENDLER_ERSTES; h < HAENDLER_ERSTES + 6; ++h) {
+        const Schiff& hsz = s_.Schiffe(h);
+        if (hsz.Zustand == 0 && hsz.Planet > SOL_III && direkt(nr, hsz.Planet)) return hsz.Planet;
+    }
+    return 0;
+}
+
+int Computerspieler::piratenziel(int nr) {
     const Schiff& sch = s_.Schiffe(nr);
     const int hq = s_.Schiffe(PIRATEN_HQ).Planet;
-    // Now and then a cruiser goes out on a one-way hunt: it fights where it is stranded.
-    const bool jagd = wuerfel(12) == 0;
-    if (hq > 0 && sch.Bewaffnung >= 8 && sch.Schaden < 30 && erreichbar(nr, von, hq, !jagd)) return hq;
+    if (hq > 0 && sch.Bewaffnung >= 6 && sch.Schaden < 20 && halt(nr, hq, rueckweg(hq))) return hq;
     int best = 0;
     long weg = 1000000;
     for (int i = 1; i <= s_.HoechstesSchiff; ++i) {
         const Schiff& pirat = s_.Schiffe(i);
         if (IstFrei(pirat) || !IstPirat(pirat) || pirat.Zustand != ZUSTAND_RUHT) continue;
         const int t = pirat.Planet;
-        if (t <= SOL_III || t > s_.AnzahlPlaneten + 10 || t == von) continue;
-        const long d = abstand_[static_cast<size_t>(t)];
-        if (d < weg && erreichbar(nr, von, t, !jagd)) {
+        if (t <= SOL_III || t > s_.AnzahlPlaneten + 10 || t == sch.Planet) continue;
+        const long d = ENTFERNUNG(s_, sch.Planet, t);
+        if (d < weg && d <= 40 && halt(nr, t, rueckweg(t))) {
             weg = d;
             best = t;
         }
