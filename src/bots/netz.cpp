@@ -56,6 +56,7 @@ bool Computerspieler::tankstelle(int planet) const {
 }
 
 long Computerspieler::rueckweg(int planet) const {
+    if (planet < SOL_III) return 0;  // no target at all
     long best = WEIT;
     for (int k : knoten_) best = std::min<long>(best, k == planet ? 0 : ENTFERNUNG(s_, planet, k));
     return best;
