@@ -137,6 +137,56 @@ TEST(Computerspieler, StationenTragenDieSchiffeWeiterAlsEinTank) {
     EXPECT_GE(fern, 1) << "a ship resting beyond the reach of Sol III";
 }
 
+// A column of the report's last row, by its name in the heading.
+long Spalte(const std::string& bericht, const std::string& name) {
+    std::istringstream ein(bericht);
+    std::string kopf, zeile, z;
+    std::getline(ein, kopf);
+    while (std::getline(ein, z))
+        if (!z.empty()) zeile = z;
+    std::istringstream k(kopf), w(zeile);
+    std::string n, v;
+    while (std::getline(k, n, ',') && std::getline(w, v, ','))
+        if (n == name) return std::stol(v);
+    return -1;
+}
+
+// The late game, which a house reaches only after centuries: played on from a
+// saved game in which house 1 owns every invention and a fortune, every good
+// is on the market and a merchant waits near Sol III. The houses go on through the menus as ever.
+TEST(Computerspieler, EinReichesHausNutztDasSpaeteSpiel) {
+    const std::string ordner = TempOrdner("bots-reich");
+    ASSERT_EQ(Bots("--bots 2 --years 40 --systems 50 --seed 5 --state " + ordner + "/40.bin").status, 0);
+    const std::string bytes = Lesen(ordner + "/40.bin");
+    auto s = std::make_unique<Spiel>();
+    std::string fehler;
+    ASSERT_TRUE(SPIELSTAND_LESEN(*s, std::vector<uint8_t>(bytes.begin(), bytes.end()), fehler)) << fehler;
+    for (int k = 1; k <= ANZAHL_ERFINDUNGEN; ++k) s->Forschung(k, 1) = -1;
+    s->ForschungsRest(1) = 1;
+    s->Bargeld(1) = 600000;
+    for (int g = 1; g <= ANZAHL_WAREN; ++g) s->AltPreis(g) = s->Preis(g);  // every good known on the market
+    for (int t = 11; t <= s->AnzahlPlaneten + 10; ++t)
+        if (ENTFERNUNG(*s, SOL_III, t) <= 10) s->Schiffe(HAENDLER_ERSTES).Planet = t;
+    s->Schiffe(HAENDLER_ERSTES).Zustand = ZUSTAND_RUHT;
+    const std::vector<uint8_t> reich = SPIELSTAND_BYTES(*s);
+    {
+        std::ofstream aus(ordner + "/reich.qvt", std::ios::binary);
+        aus.write(reinterpret_cast<const char*>(reich.data()), static_cast<std::streamsize>(reich.size()));
+    }
+    EXPECT_EQ(Bots("--bots 3 --years 5 --load " + ordner + "/reich.qvt").status, 2) << "the file has two houses";
+
+    const Lauf a = Bots("--bots 2 --years 120 --check --load " + ordner + "/reich.qvt --report " + ordner + "/r.csv");
+    ASSERT_EQ(a.status, 0) << a.ausgabe;
+    EXPECT_EQ(LetzteZeile(a.ausgabe), "120 Jahre, 2 Spieler: in Ordnung");
+    const std::string bericht = Lesen(ordner + "/r.csv");
+    EXPECT_GE(Spalte(bericht, "gebaut_XXL"), 1) << "a great freighter from the docks";
+    EXPECT_GE(Spalte(bericht, "geraete"), 1) << "production devices delivered";
+    EXPECT_GE(Spalte(bericht, "portale"), 1) << "a portal installed";
+    EXPECT_GE(Spalte(bericht, "handel"), 1) << "a trade with the merchant";
+    EXPECT_EQ(Spalte(bericht, "erfindungen1"), ANZAHL_ERFINDUNGEN);
+    EXPECT_EQ(Lesen(ordner + "/reich.qvt").size(), reich.size()) << "the saved game is left as it was";
+}
+
 TEST(Computerspieler, FalscheAngabenWerdenAbgewiesen) {
     EXPECT_EQ(Bots("--bots 7 --years 1").status, 2);
     EXPECT_EQ(Bots("--bots 2").status, 2);

@@ -50,6 +50,8 @@ uint32_t Computerspieler::wuerfel(uint32_t n) {
 
 std::string Computerspieler::startSkript() const {
     // The scroller takes a key in each of its steps: a pause lets it finish.
+    // A saved game: "nein" at "Neues Spiel?", and the one file of the run's folder.
+    if (!a_.laden.empty()) return "key SPACE\nwait 200\nkey N\nkey ENTER\nkey ENTER\n";
     std::string k = "key SPACE\nwait 200\nkey ENTER\n";
     k += "key " + std::to_string(a_.spieler) + "\nkey ENTER\n";
     int index = 1;
@@ -193,10 +195,33 @@ void Computerspieler::jahrBeendet() {
 
 // --- the run -------------------------------------------------------------------------
 
+int BOTS_SPIELSTAND_PRUEFEN(const std::string& pfad, std::string& fehler) {
+    std::ifstream ein(pfad, std::ios::binary);
+    if (!ein) {
+        fehler = "Spielstand '" + pfad + "' nicht gefunden.";
+        return 0;
+    }
+    const std::vector<uint8_t> bytes((std::istreambuf_iterator<char>(ein)), std::istreambuf_iterator<char>());
+    auto s = std::make_unique<Spiel>();
+    if (!SPIELSTAND_LESEN(*s, bytes, fehler)) {
+        fehler = pfad + ": " + Utf8(fehler);
+        return 0;
+    }
+    return s->AnzahlSpieler;
+}
+
 int COMPUTERSPIEL(const BotAuftrag& a, const std::string& daten, HeadlessPlattform& p, Spiel& s) {
-    // Saves go to a folder of the run's own, never into the data beside the program.
+    // Saves go to a folder of the run's own, never into the data beside the program;
+    // a saved game to play on from is copied there, and the original is left alone.
     const fs::path ordner = fs::temp_directory_path() / ("quorvant-bots-" + std::to_string(::getpid()));
     fs::create_directories(ordner);
+    std::error_code kopiert;
+    if (!a.laden.empty()) fs::copy_file(a.laden, ordner / "start.qvt", fs::copy_options::overwrite_existing, kopiert);
+    if (kopiert) {
+        std::printf("Spielstand '%s' nicht kopiert: %s\n", a.laden.c_str(), kopiert.message().c_str());
+        fs::remove_all(ordner, kopiert);
+        return 1;
+    }
     s.ProgrammVerzeichnis = daten;
     s.DatenVerzeichnis = ordner.string();
 

@@ -21,6 +21,7 @@ struct BotAuftrag {
     uint32_t saat = 1;
     bool pruefen = false;  // the invariants after every year
     std::string bericht;   // CSV file, one row a year; "" none
+    std::string laden;     // a saved game the houses play on from; "" a new game
 };
 
 // The sizes of the galaxy the new-game dialog offers, in its order.
@@ -151,6 +152,9 @@ private:
     std::map<std::string, long> aktionenGezaehlt_;
 };
 
-// The driver's run: a new game of computer players for a.jahre years.
+// The number of houses in the saved game at `pfad`, or 0 with `fehler` set.
+int BOTS_SPIELSTAND_PRUEFEN(const std::string& pfad, std::string& fehler);
+
+// The driver's run: a new game of computer players, or the saved game a.laden, for a.jahre years.
 // Returns the exit status; prints the last line.
 int COMPUTERSPIEL(const BotAuftrag& a, const std::string& daten, HeadlessPlattform& p, Spiel& s);

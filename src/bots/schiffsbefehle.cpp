@@ -135,6 +135,12 @@ bool Computerspieler::handelsschiff(int nr, const std::vector<std::string>& l) {
     }
     if (tanken(nr, l)) return true;
     if (!Da(l, P_START) && !Da(l, P_TELEPORT)) return false;
+    if (waren > 0) {
+        // A merchant gives a tonne of his good for any tonne: the dearest good of the market
+        // for cheap cargo beats any tour.
+        const int haendler = haendlerziel(nr);
+        if (haendler && haendler != hier && fliegen(nr, l, haendler, rueckweg(haendler))) return true;
+    }
     if (Da(l, P_START) && sch.Ladung + 2 < sch.Laderaum && sch.Fracht(FRACHT_PORTAL) == 0) {
         // A tour through the system: the next planet to discover or with stock to buy.
         const int hq = s_.Schiffe(PIRATEN_HQ).Planet;
@@ -153,10 +159,6 @@ bool Computerspieler::handelsschiff(int nr, const std::vector<std::string>& l) {
             }
         }
         if (ziel) return fliegen(nr, l, ziel, rueckweg(ziel));
-    }
-    if (waren > 0) {
-        const int haendler = haendlerziel(nr);
-        if (haendler && haendler != hier && fliegen(nr, l, haendler, rueckweg(haendler))) return true;
     }
     if (waren <= 0 && sch.Fracht(FRACHT_PORTAL) == 0 && sch.Fracht(FRACHT_GERAETE) == 0) {
         int ziel = handelsziel(nr);

@@ -201,11 +201,11 @@ bool Computerspieler::docks() {
     // The first station opens the way out, a tanker keeps it filled, a cruiser earns
     // the pirates' prizes; a second freighter and a scout follow.
     if (frachter < 1) typ = NR_FRACHTER;
-    else if (!stationWartet && standort() && stationen < 1 + rang + s_.Komponenten) typ = NR_STATION;
-    else if (stationen > 0 && tanker < std::min(1 + stationen / 3, 4)) typ = NR_TANKER;
+    else if (scouts < 1 && geld > 1000) typ = NR_SCOUT;  // first landings pay from the first years on
+    else if (!stationWartet && standort() && stationen < 1 + rang + s_.Komponenten && geld > 4000) typ = NR_STATION;
+    else if (stationen > 0 && tanker < std::min(1 + stationen / 3, 4) && geld > 1500) typ = NR_TANKER;
     else if (kreuzer < std::min(1 + (hqNah ? 3 : 0) + piraten / 20, 6) && geld > 2500) typ = NR_KREUZER;
     else if (frachter < 2) typ = NR_FRACHTER;
-    else if (scouts < 1 && geld > 1200) typ = NR_SCOUT;
     else if (frachter < std::min(2 + 2 * rang, 14) && geld > 2500) typ = NR_FRACHTER;
     else if (scouts < 2 && stationen > 1 && geld > 3000) typ = NR_SCOUT;
     else if (Erfunden(s_, ERF_GROSSFRACHTER, p) && anzahl(p, TYP_GROSSFRACHTER) < 1 + rang / 3 && geld > 15000) typ = NR_GROSSFRACHTER;

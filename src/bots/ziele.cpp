@@ -173,17 +173,28 @@ bool Computerspieler::direkt(int nr, int ziel) const {
 }
 
 int Computerspieler::erkundungsziel(int nr) {
-    // The good of a system is known before anybody lands: dear goods and far
-    // planets pay, the way there costs years.
+    // Every first landing pays twice the way from Sol III, and the ten planets of a
+    // system lie 2 to 4 units apart: a ship out there tours the system and its
+    // neighbours on what is in its tank before it turns to the far ones. The good of a
+    // system is known before anybody lands, and a freighter looks at it too.
     const Schiff& sch = s_.Schiffe(nr);
+    const int hier = sch.Planet;
     const int hq = s_.Schiffe(PIRATEN_HQ).Planet;
     const bool traeger = IstHandelsschiff(sch);
-    const auto beste = Bestenliste(s_, karte(weite(sch, sch.Tankgroesse)), [&](int t, long kosten) {
+    const long schnell = IstScout(sch) ? 2 : 1;
+    const long heim = hier == SOL_III ? 0 : vonSol_[static_cast<size_t>(hier)];
+    const auto& netz = karte(weite(sch, sch.Tankgroesse));
+    std::vector<long> kosten(netz.size(), UNERREICHBAR);
+    for (int t = 11; t <= s_.AnzahlPlaneten + 10; ++t) {
+        const long n = netz[static_cast<size_t>(t)];
+        kosten[static_cast<size_t>(t)] = direkt(nr, t) ? ENTFERNUNG(s_, hier, t) : n < UNERREICHBAR ? n + heim : UNERREICHBAR;
+    }
+    const auto beste = Bestenliste(s_, kosten, [&](int t, long weg) {
         const Planet& pl = s_.Dokument(t);
         if (pl.Produktion != 0 || t == hq || ziele_.count(t) || pl.Ware < 1 || pl.Ware > ANZAHL_WAREN) return 0.0;
         const double marge = std::max(0.0, s_.Preis(pl.Ware) - 3.0 * pl.Ware - 0.5);
         const double wert = 2.0 * vonSol_[static_cast<size_t>(t)] + (traeger ? 6.5 * marge : 0.0) + 1.0;
-        return wert / (2.0 * kosten + 3.0);
+        return wert / (static_cast<double>(weg) / schnell + 2.0);
     });
     for (int t : beste)
         if (halt(nr, t, rueckweg(t))) return t;
@@ -224,11 +235,19 @@ int Computerspieler::haendlerziel(int nr) {
         for (int g = 1; g <= ANZAHL_WAREN; ++g)
             if (!angebot || s_.Preis(g) >= s_.Preis(angebot)) angebot = g;
     if (s_.Preis(angebot) * tonnen < wert + 20 * tonnen) return 0;
+    // The nearest merchant at rest the network leads to; he may sail before the ship is there.
+    int best = 0;
+    long weg = 1L << 30;
     for (int h = HAENDLER_ERSTES; h < HAENDLER_ERSTES + 6; ++h) {
         const Schiff& hsz = s_.Schiffe(h);
-        if (hsz.Zustand == 0 && hsz.Planet > SOL_III && direkt(nr, hsz.Planet)) return hsz.Planet;
+        if (hsz.Zustand != ZUSTAND_RUHT || hsz.Planet <= SOL_III || hsz.Planet > s_.AnzahlPlaneten + 10) continue;
+        const long d = ENTFERNUNG(s_, sch.Planet, hsz.Planet);
+        if (d < weg && (hsz.Planet == sch.Planet || halt(nr, hsz.Planet, rueckweg(hsz.Planet)))) {
+            weg = d;
+            best = hsz.Planet;
+        }
     }
-    return 0;
+    return best;
 }
 
 int Computerspieler::piratenziel(int nr) {

@@ -21,7 +21,7 @@ void Hilfe() {
                  "Aufruf: quorvant-headless [--data DIR] [--seed N] [--script DATEI|-] [--max-ms MS]\n"
                  "                          [--screen DATEI] [--png DATEI] [--state DATEI] [--trace DATEI]\n"
                  "       quorvant-headless --bots P --years Y [--systems N] [--capital C] [--seed S]\n"
-                 "                          [--check] [--report DATEI] [--state DATEI]\n");
+                 "                          [--check] [--report DATEI] [--state DATEI] [--load SPIELSTAND]\n");
 }
 
 bool Schreiben(const std::string& pfad, const std::string& inhalt) {
@@ -60,6 +60,7 @@ int main(int argc, char** argv) {
         else if (a == "--capital") bots.kapital = std::stoi(wert());
         else if (a == "--check") bots.pruefen = true;
         else if (a == "--report") bots.bericht = wert();
+        else if (a == "--load") bots.laden = wert();
         else if (a == "--help" || a == "-h") { Hilfe(); return 0; }
         else {
             std::fprintf(stderr, "Unbekannte Option: %s\n", a.c_str());
@@ -99,6 +100,14 @@ int main(int argc, char** argv) {
     auto spiel = std::make_unique<Spiel>();
     spiel->ProgrammVerzeichnis = daten;
     int status = 0;
+    if (mitBots && !bots.laden.empty()) {
+        // The houses of the saved game: --bots, if given, must say as many.
+        const int n = BOTS_SPIELSTAND_PRUEFEN(bots.laden, fehler);
+        if (n == 0 || bots.spieler != n) {
+            std::fprintf(stderr, "%s\n", n == 0 ? fehler.c_str() : ("Der Spielstand hat " + std::to_string(n) + " Spieler.").c_str());
+            return 2;
+        }
+    }
     if (mitBots) {
         if (bots.spieler < 1 || bots.spieler > 6 || !mitJahren || bots.jahre < 1 || !SYSTEME_ERLAUBT(bots.systeme) ||
             bots.kapital < 0 || bots.kapital > 10000 || !skript.empty()) {
