@@ -153,7 +153,7 @@ long Spalte(const std::string& bericht, const std::string& name) {
 
 // The late game, which a house reaches only after centuries: played on from a
 // saved game in which house 1 owns every invention and a fortune, every good
-// is on the market and a merchant waits near Sol III. The houses go on through the menus as ever.
+// is on the market, and a merchant and the pirates' headquarters stand near Sol III. The houses go on through the menus as ever.
 TEST(Computerspieler, EinReichesHausNutztDasSpaeteSpiel) {
     const std::string ordner = TempOrdner("bots-reich");
     ASSERT_EQ(Bots("--bots 2 --years 40 --systems 50 --seed 5 --state " + ordner + "/40.bin").status, 0);
@@ -165,9 +165,19 @@ TEST(Computerspieler, EinReichesHausNutztDasSpaeteSpiel) {
     s->ForschungsRest(1) = 1;
     s->Bargeld(1) = 600000;
     for (int g = 1; g <= ANZAHL_WAREN; ++g) s->AltPreis(g) = s->Preis(g);  // every good known on the market
-    for (int t = 11; t <= s->AnzahlPlaneten + 10; ++t)
-        if (ENTFERNUNG(*s, SOL_III, t) <= 10) s->Schiffe(HAENDLER_ERSTES).Planet = t;
-    s->Schiffe(HAENDLER_ERSTES).Zustand = ZUSTAND_RUHT;
+    // The merchants at the nearest planets of Sol III's neighbours, the headquarters in the next system.
+    std::vector<std::pair<long, int>> nah;
+    for (int t = 11; t <= s->AnzahlPlaneten + 10; ++t) nah.emplace_back(ENTFERNUNG(*s, SOL_III, t), t);
+    std::sort(nah.begin(), nah.end());
+    for (int h = 0; h < 6; ++h) {
+        s->Schiffe(HAENDLER_ERSTES + h).Planet = nah[static_cast<size_t>(h)].second;
+        s->Schiffe(HAENDLER_ERSTES + h).Zustand = ZUSTAND_RUHT;
+    }
+    for (const auto& [d, t] : nah)
+        if ((t - 1) / 10 != (nah[0].second - 1) / 10 && (t - 1) / 10 != (nah[5].second - 1) / 10) {
+            s->Schiffe(PIRATEN_HQ).Planet = t;
+            break;
+        }
     const std::vector<uint8_t> reich = SPIELSTAND_BYTES(*s);
     {
         std::ofstream aus(ordner + "/reich.qvt", std::ios::binary);
@@ -184,6 +194,7 @@ TEST(Computerspieler, EinReichesHausNutztDasSpaeteSpiel) {
     EXPECT_GE(Spalte(bericht, "portale"), 1) << "a portal installed";
     EXPECT_GE(Spalte(bericht, "handel"), 1) << "a trade with the merchant";
     EXPECT_EQ(Spalte(bericht, "erfindungen1"), ANZAHL_ERFINDUNGEN);
+    EXPECT_EQ(Spalte(bericht, "hq_planet"), 0) << "the cruisers brought the headquarters down";
     EXPECT_EQ(Lesen(ordner + "/reich.qvt").size(), reich.size()) << "the saved game is left as it was";
 }
 

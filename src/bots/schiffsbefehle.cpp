@@ -189,6 +189,15 @@ bool Computerspieler::kreuzer(int nr, const std::vector<std::string>& l) {
     if (sch.Zustand != ZUSTAND_RUHT) return false;
     if (hier == SOL_III) {
         if (tanken(nr, l)) return true;
+        // A repair set lets the cruiser mend itself at the headquarters and fight on.
+        if (Da(l, P_AUSRUESTUNG) && sch.Fracht(FRACHT_REPARATURSET) == 0 && Erfunden(s_, ERF_REPARATURSET, s_.AktSpieler) &&
+            s_.Bargeld(s_.AktSpieler) > 1000 + 2 * RESERVE) {
+            befehl(nr, l, P_AUSRUESTUNG);
+            taste("ENTER");  // Reparaturset, the only thing a cruiser carries
+            taste("ENTER");
+            angewiesen_.erase(nr);
+            return true;
+        }
         if (sch.Bewaffnung == 0 || sch.Schaden >= 25) return false;
         const int ziel = piratenziel(nr);
         return ziel && fliegen(nr, l, ziel, rueckweg(ziel));
