@@ -261,8 +261,10 @@ int Computerspieler::piratenziel(int nr) {
         if (IstFrei(pirat) || !IstPirat(pirat) || pirat.Zustand != ZUSTAND_RUHT) continue;
         const int t = pirat.Planet;
         if (t <= SOL_III || t > s_.AnzahlPlaneten + 10 || t == sch.Planet) continue;
+        // Only a weaker pirate: against an equal one the fight lasts decades, a stronger one wins.
+        if (pirat.Bewaffnung >= sch.Bewaffnung) continue;
         const long d = ENTFERNUNG(s_, sch.Planet, t);
-        if (d < weg && d <= 40 && halt(nr, t, rueckweg(t))) {
+        if (d < weg && halt(nr, t, rueckweg(t))) {
             weg = d;
             best = t;
         }
