@@ -46,6 +46,8 @@ bool Computerspieler::handelsschiff(int nr, const std::vector<std::string>& l) {
         return fliegen(nr, l, ort, 0);  // and waits there for the tanker
     }
     const long waren = sch.Ladung - 2L * sch.Fracht(FRACHT_GERAETE) - (sch.Fracht(FRACHT_PORTAL) ? sch.Laderaum : 0);
+    // Past half damage a freighter loses every year what it carries: home to the docks first.
+    if (sch.Schaden >= 50 && !Da(l, P_REPARATUR)) return hier == SOL_III ? tanken(nr, l) : heimwaerts(nr, l);
     if (hier == SOL_III) {
         if (tanken(nr, l)) return true;
         if (Da(l, P_AUSRUESTUNG)) {

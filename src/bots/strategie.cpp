@@ -144,7 +144,7 @@ bool Computerspieler::docks() {
     const Long geld = s_.Bargeld(p);
     // Jobs on ships at home first, then a new ship.
     const int kaputt = ErstesAufSol(s_, p, [](const Schiff& sch) { return sch.Schaden > 0; });
-    if (kaputt && s_.Schiffe(kaputt).Schaden >= 25 && geld > 80L * s_.Schiffe(kaputt).Schaden + RESERVE) {
+    if (kaputt && s_.Schiffe(kaputt).Schaden >= 25 && geld > REPARATUR_PREIS(s_.Schiffe(kaputt)) + RESERVE / 2) {
         menue("D");
         for (int i = 1; i < AUFTRAG_REPARATUR; ++i) taste("UP");
         taste("ENTER");
@@ -234,7 +234,7 @@ bool Computerspieler::schiffVerkaufen() {
     for (int i = 1; i <= s_.HoechstesSchiff; ++i) {
         const Schiff& sch = s_.Schiffe(i);
         if (sch.Besitzer != p || !SCHIFF_VERKAEUFLICH(s_, i)) continue;
-        const bool wrack = sch.Schaden >= 60 && s_.Bargeld(p) < 80L * sch.Schaden;
+        const bool wrack = sch.Schaden >= 60 && s_.Bargeld(p) < REPARATUR_PREIS(sch);
         const bool zuviel = IstScout(sch) && anzahl(p, TYP_SCOUT) > 2;
         if (!wrack && !zuviel) continue;
         erledigt_.insert("verkauf");

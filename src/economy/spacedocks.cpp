@@ -54,16 +54,6 @@ void DockListe(Spiel& s, int p, int m) {
     }
 }
 
-long ReparaturPreis(const Schiff& sch) {
-    const long d = sch.Schaden;
-    if (IstFrachter(sch)) return 9 * d;
-    if (IstTanker(sch)) return 8 * d;
-    if (IstKreuzer(sch)) return 7 * d;
-    if (IstScout(sch)) return static_cast<long>(3.5 * static_cast<double>(d));
-    if (IstStation(sch)) return 18 * d;
-    return 80 * d;
-}
-
 // Whether the job can be done on this ship at all.
 bool PasstFuer(const Spiel& s, int auftrag, int n) {
     const Schiff& sch = s.Schiffe(n);
@@ -176,7 +166,7 @@ void Reparieren(Spiel& s) {
     const int n = SchiffFuerAuftrag(s, AUFTRAG_REPARATUR);
     if (n == 0) return;
     Schiff& sch = s.Schiffe(n);
-    const long c = ReparaturPreis(sch);
+    const long c = REPARATUR_PREIS(sch);
     // The money is checked before the question, on the question's row.
     if (c > s.Bargeld(s.AktSpieler)) {
         ABLEHNEN(s, KEIN_GELD, 660);
@@ -203,6 +193,16 @@ void FilterEinbauen(Spiel& s) {
 }
 
 }  // namespace
+
+long REPARATUR_PREIS(const Schiff& sch) {
+    const long d = sch.Schaden;
+    if (IstFrachter(sch)) return 9 * d;
+    if (IstTanker(sch)) return 8 * d;
+    if (IstKreuzer(sch)) return 7 * d;
+    if (IstScout(sch)) return static_cast<long>(3.5 * static_cast<double>(d));
+    if (IstStation(sch)) return 18 * d;
+    return 80 * d;
+}
 
 void DOCK_EINREIHEN(Spiel& s, int spieler, int schiff) {
     // The row stays ascending with its empty places behind; the caller has

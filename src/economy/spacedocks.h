@@ -11,3 +11,5 @@ void DOCK_EINREIHEN(Spiel& s, int spieler, int schiff);
 int LADERAUM_GRENZE(const Spiel& s, const Schiff& sch, int p);
 // Highest weapons level of this type for player p; 0: it carries none.
 int WAFFEN_GRENZE(const Spiel& s, const Schiff& sch, int p);
+// What the docks take for mending the ship's damage.
+long REPARATUR_PREIS(const Schiff& sch);
