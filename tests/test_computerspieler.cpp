@@ -128,13 +128,13 @@ TEST(Computerspieler, StationenTragenDieSchiffeWeiterAlsEinTank) {
         const Schiff& sch = s->Schiffe(i);
         if (IstFrei(sch) || !IstSpielerBesitz(sch)) continue;
         if (IstStation(sch) && sch.Planet > SOL_III && sch.Fracht(FRACHT_SPRIT) > 0) ++gefuellt;
-        // Out and home again on one tank reaches 14 units; beyond that only over a station.
-        if (!IstStation(sch) && sch.Zustand == ZUSTAND_RUHT && ENTFERNUNG(*s, SOL_III, sch.Planet) > 14) ++fern;
     }
+    // Out and home again on one tank a scout reaches 29 units; beyond that only over a station.
+    for (int t = 11; t <= s->AnzahlPlaneten + 10; ++t) fern += s->Dokument(t).Produktion != 0 && ENTFERNUNG(*s, SOL_III, t) > 30;
     EXPECT_GE(gefuellt, 1) << "a station out in space with tank units";
     const std::string bericht = Lesen(ordner + "/n.csv");
     EXPECT_NE(bericht.find(",stationen_draussen,handel,geraete,portale,erstlandungen,"), std::string::npos);
-    EXPECT_GE(fern, 1) << "a ship resting beyond the reach of Sol III";
+    EXPECT_GE(fern, 1) << "a planet discovered beyond the reach of Sol III";
 }
 
 // A column of the report's last row, by its name in the heading.

@@ -149,7 +149,13 @@ int Computerspieler::standort() {
     }
     if (eigene >= 12) return 0;
     const int hq = s_.Schiffe(PIRATEN_HQ).Planet;
-    int ziel = hq;
+    constexpr long SCHRITT = 28;  // a freighter's way on one tank
+    const auto naheAmNetz = [&](int t) {
+        for (int k : knoten_)
+            if (ENTFERNUNG(s_, k, t) <= SCHRITT / 2) return true;  // cruisers fly there and back
+        return false;
+    };
+    int ziel = hq > 0 && !naheAmNetz(hq) ? hq : 0;
     if (ziel <= 0) {
         // The star farthest from home that the map holds.
         long fern = 0;
@@ -161,18 +167,25 @@ int Computerspieler::standort() {
             }
         }
     }
-    if (ziel <= 0) return 0;
-    constexpr long SCHRITT = 28;  // a freighter's way on one tank
-    long jetzt = WEIT;
-    for (int k : knoten_) jetzt = std::min<long>(jetzt, ENTFERNUNG(s_, k, ziel));
-    if (jetzt <= 14) return 0;  // near enough: cruisers fly there and back
+    if (ziel <= 0 || naheAmNetz(ziel)) return 0;
+    // Each house a system of its own: tankers unload into the first station of a planet,
+    // and a second station there would stay dry. Another house's station is a filling all the same.
+    std::vector<bool> besetzt(static_cast<size_t>(s_.AnzahlPlaneten / 10) + 2, false);
+    for (int i = 1; i <= s_.HoechstesSchiff; ++i) {
+        const Schiff& st = s_.Schiffe(i);
+        if (!IstFrei(st) && IstStation(st) && st.Planet > SOL_III && st.Planet <= s_.AnzahlPlaneten + 10)
+            besetzt[static_cast<size_t>(System(st.Planet))] = true;
+    }
+    for (const auto& [station, ort] : schlepp_)
+        if (ort > SOL_III && ort <= s_.AnzahlPlaneten + 10) besetzt[static_cast<size_t>(System(ort))] = true;
+    // A site opens new ground: one tank from a filling, but not within half a tank of one.
     int best = 0;
-    long bestD = jetzt - 8;
+    long bestD = WEIT;
     for (int t = 12; t <= s_.AnzahlPlaneten + 10; t += 10) {
-        if (hq > 0 && System(t) == System(hq)) continue;
-        bool nah = false;
-        for (int k : knoten_) nah = nah || ENTFERNUNG(s_, k, t) <= SCHRITT;
-        if (!nah) continue;
+        if ((hq > 0 && System(t) == System(hq)) || besetzt[static_cast<size_t>(System(t))]) continue;
+        long naechste = WEIT;
+        for (int k : knoten_) naechste = std::min<long>(naechste, ENTFERNUNG(s_, k, t));
+        if (naechste > SCHRITT || naechste < SCHRITT / 2) continue;
         const long d = ENTFERNUNG(s_, t, ziel);
         if (d < bestD) {
             bestD = d;

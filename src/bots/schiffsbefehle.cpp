@@ -260,13 +260,16 @@ bool Computerspieler::tanker(int nr, const std::vector<std::string>& l) {
     if (sch.Zustand != ZUSTAND_RUHT) return false;
     if (hier == SOL_III) {
         if (tanken(nr, l)) return true;
-        if (Da(l, P_TANKER) && sch.Ladung < sch.Laderaum && s_.Bargeld(p) > 30L * (sch.Laderaum - sch.Ladung) + 300) {
+        // As many tank units as the purse allows beyond a reserve, at least ten.
+        const long einheiten = std::min<long>(sch.Laderaum - sch.Ladung, (s_.Bargeld(p) - 400) / 30);
+        if (Da(l, P_TANKER) && einheiten >= std::min<long>(10, sch.Laderaum - sch.Ladung) && einheiten > 0) {
             befehl(nr, l, P_TANKER);
             if (sch.Fracht(FRACHT_REPARATURSET) == 0 && Erfunden(s_, ERF_REPARATURSET, p)) taste("ENTER");  // Tankeinheiten
             if (Erfunden(s_, ERF_SUPERSPRIT, p)) {
                 taste("DOWN");  // normal fuel
                 taste("ENTER");
             }
+            tippen(std::to_string(einheiten));
             taste("ENTER");
             angewiesen_.erase(nr);
             return true;
