@@ -14,6 +14,7 @@
 #include <mutex>
 
 #include "screen/leinwand.h"
+#include "screen/pixel.h"
 #include "state/text.h"
 
 namespace {
@@ -27,17 +28,6 @@ constexpr const char* ERSATZ_SCHRIFTEN[] = {
 const char* const SCHRIFT_FEHLT =
     "Schriftart 'Courier New' (Liberation Mono) nicht gefunden. "
     "Bitte das Paket fonts-liberation2 installieren.";
-
-// Lays colour c over d with coverage a (0..255).
-inline uint32_t Mischen(uint32_t d, uint32_t c, unsigned a) {
-    if (a >= 255) return c;
-    if (a == 0) return d;
-    auto kanal = [&](int s) {
-        int dk = static_cast<int>((d >> s) & 0xFF), ck = static_cast<int>((c >> s) & 0xFF);
-        return static_cast<uint32_t>(dk + ((ck - dk) * static_cast<int>(a) + 127) / 255) << s;
-    };
-    return 0xFF000000u | kanal(16) | kanal(8) | kanal(0);
-}
 
 // Nothing is drawn for control characters and the holes of the code page.
 inline bool Sichtbar(unsigned int cp) { return cp >= 0x20 && !(cp >= 0x7F && cp < 0xA0); }
@@ -216,16 +206,7 @@ void Leinwand::text(const std::string& t, int g, int x, int y, Farbe f) {
                 gl.oben = face->glyph->bitmap_top;
                 gl.b = static_cast<int>(bm.width);
                 gl.h = static_cast<int>(bm.rows);
-                gl.deckung.assign(static_cast<size_t>(gl.b) * gl.h, 0);
-                for (int r = 0; r < gl.h; ++r) {
-                    const unsigned char* zeile = bm.buffer + static_cast<ptrdiff_t>(r) * bm.pitch;
-                    for (int k = 0; k < gl.b; ++k) {
-                        unsigned a = 0;
-                        if (bm.pixel_mode == FT_PIXEL_MODE_GRAY) a = zeile[k];
-                        else if (bm.pixel_mode == FT_PIXEL_MODE_MONO) a = (zeile[k >> 3] & (0x80 >> (k & 7))) ? 255 : 0;
-                        gl.deckung[static_cast<size_t>(r) * gl.b + k] = static_cast<uint8_t>(a);
-                    }
-                }
+                GlyphenDeckung(bm, gl.deckung);
             }
         }
         if (gl.deckung.empty()) continue;
@@ -240,7 +221,7 @@ void Leinwand::text(const std::string& t, int g, int x, int y, Farbe f) {
             for (int k = 0; k < gl.b; ++k) {
                 const int px = gx + k;
                 if (px < zx1 || px >= zx2 || quelle[k] == 0) continue;
-                ziel[px] = Mischen(ziel[px], farbe, quelle[k]);
+                ziel[px] = PixelMischen(ziel[px], farbe, quelle[k]);
             }
         }
     }

@@ -1,4 +1,5 @@
 #include "screen/sdl/hochbild.h"
+#include "screen/pixel.h"
 
 #include <algorithm>
 #include <cmath>
@@ -7,17 +8,6 @@ namespace {
 
 constexpr uint32_t SCHWARZ = 0xFF000000u;
 constexpr int B = Leinwand::BREITE, H = Leinwand::HOEHE;
-
-// Lays colour c over d with coverage a (0..255), as the canvas does.
-inline uint32_t Ueber(uint32_t d, uint32_t c, unsigned a) {
-    if (a >= 255) return c;
-    if (a == 0) return d;
-    auto kanal = [&](int s) {
-        int dk = static_cast<int>((d >> s) & 0xFF), ck = static_cast<int>((c >> s) & 0xFF);
-        return static_cast<uint32_t>(dk + ((ck - dk) * static_cast<int>(a) + 127) / 255) << s;
-    };
-    return 0xFF000000u | kanal(16) | kanal(8) | kanal(0);
-}
 
 Hochbild::Rechteck Geschnitten(int x1, int y1, int x2, int y2) {
     Hochbild::Rechteck r{std::max(x1, 0), std::max(y1, 0), std::min(x2, B - 1), std::min(y2, H - 1)};
@@ -287,7 +277,7 @@ void Hochbild::textZeichnen(const Schritt& s) {
             for (int k = 0; k < gl->b; ++k) {
                 const int px = gx + k;
                 if (px < spalte1 || px >= spalte2 || quelle[k] == 0) continue;
-                ziel[px] = Ueber(ziel[px], s.farbe, quelle[k]);
+                ziel[px] = PixelMischen(ziel[px], s.farbe, quelle[k]);
             }
         }
     }
@@ -296,7 +286,7 @@ void Hochbild::textZeichnen(const Schritt& s) {
 void Hochbild::mischen(int x, int y, uint32_t c, double deckung) {
     const unsigned a = static_cast<unsigned>(std::lround(Klemmen01(deckung) * 255.0));
     uint32_t& z = pix_[static_cast<size_t>(y) * b_ + x];
-    z = Ueber(z, c, a);
+    z = PixelMischen(z, c, a);
 }
 
 void Hochbild::linieZeichnen(const Schritt& s) {

@@ -1,4 +1,5 @@
 #include "screen/sdl/hochschrift.h"
+#include "screen/pixel.h"
 
 #include <ft2build.h>
 #include FT_FREETYPE_H
@@ -125,16 +126,7 @@ const Hochschrift::Glyphe* Hochschrift::glyphe(int g, unsigned char c) {
             gl.oben = face->glyph->bitmap_top;
             gl.b = static_cast<int>(bm.width);
             gl.h = static_cast<int>(bm.rows);
-            gl.deckung.assign(static_cast<size_t>(gl.b) * gl.h, 0);
-            for (int r = 0; r < gl.h; ++r) {
-                const unsigned char* zeile = bm.buffer + static_cast<ptrdiff_t>(r) * bm.pitch;
-                for (int k = 0; k < gl.b; ++k) {
-                    unsigned a = 0;
-                    if (bm.pixel_mode == FT_PIXEL_MODE_GRAY) a = zeile[k];
-                    else if (bm.pixel_mode == FT_PIXEL_MODE_MONO) a = (zeile[k >> 3] & (0x80 >> (k & 7))) ? 255 : 0;
-                    gl.deckung[static_cast<size_t>(r) * gl.b + k] = static_cast<uint8_t>(a);
-                }
-            }
+            GlyphenDeckung(bm, gl.deckung);
         }
     }
     return gl.deckung.empty() ? nullptr : &gl;
