@@ -15,6 +15,7 @@
 
 #include "screen/leinwand.h"
 #include "screen/pixel.h"
+#include "screen/schriftdatei.h"
 #include "state/text.h"
 
 namespace {
@@ -109,6 +110,35 @@ bool SchriftSuchen(std::string& datei, std::string& familie) {
 
 }  // namespace
 
+FT_Face COURIER_OEFFNEN(FT_Library bib, std::string& fehler) {
+    FT_Face face = nullptr;
+    std::string datei, familie;
+    const bool gefunden = SchriftSuchen(datei, familie);
+    const bool richtig = familie == "Liberation Mono" || familie == "Courier New";
+    if (gefunden && richtig && FT_New_Face(bib, datei.c_str(), 0, &face) != 0) face = nullptr;
+    if (!face) {  // fontconfig gave another font or none: try the known places first
+        for (const char* p : ERSATZ_SCHRIFTEN) {
+            if (FT_New_Face(bib, p, 0, &face) == 0) {
+                familie = "Liberation Mono";
+                break;
+            }
+            face = nullptr;
+        }
+    }
+    if (!face && gefunden && FT_New_Face(bib, datei.c_str(), 0, &face) != 0) face = nullptr;
+    if (!face) {
+        fehler = SCHRIFT_FEHLT;
+        return nullptr;
+    }
+    if (familie != "Liberation Mono" && familie != "Courier New")
+        std::fprintf(stderr,
+                     "Warnung: statt 'Courier New' (Liberation Mono) wird '%s' verwendet; "
+                     "das Paket fonts-liberation2 fehlt wohl.\n",
+                     familie.c_str());
+    FT_Select_Charmap(face, FT_ENCODING_UNICODE);
+    return face;
+}
+
 // Here, where the font's parts are known: the canvas starts black.
 Leinwand::Leinwand() : pix_(static_cast<size_t>(BREITE) * HOEHE) { leeren(); }
 Leinwand::~Leinwand() = default;
@@ -121,30 +151,8 @@ bool Leinwand::schriftLaden(std::string& fehler) {
         fehler = "Die Schriftbibliothek FreeType lässt sich nicht starten.";
         return false;
     }
-    std::string datei, familie;
-    const bool gefunden = SchriftSuchen(datei, familie);
-    const bool richtig = familie == "Liberation Mono" || familie == "Courier New";
-    if (gefunden && richtig && FT_New_Face(s->bib, datei.c_str(), 0, &s->face) != 0) s->face = nullptr;
-    if (!s->face) {  // fontconfig gave another font or none: try the known places first
-        for (const char* p : ERSATZ_SCHRIFTEN) {
-            if (FT_New_Face(s->bib, p, 0, &s->face) == 0) {
-                familie = "Liberation Mono";
-                break;
-            }
-            s->face = nullptr;
-        }
-    }
-    if (!s->face && gefunden && FT_New_Face(s->bib, datei.c_str(), 0, &s->face) != 0) s->face = nullptr;
-    if (!s->face) {
-        fehler = SCHRIFT_FEHLT;
-        return false;
-    }
-    if (familie != "Liberation Mono" && familie != "Courier New")
-        std::fprintf(stderr,
-                     "Warnung: statt 'Courier New' (Liberation Mono) wird '%s' verwendet; "
-                     "das Paket fonts-liberation2 fehlt wohl.\n",
-                     familie.c_str());
-    FT_Select_Charmap(s->face, FT_ENCODING_UNICODE);
+    s->face = COURIER_OEFFNEN(s->bib, fehler);
+    if (!s->face) return false;
     schrift_ = std::move(s);
     return true;
 }

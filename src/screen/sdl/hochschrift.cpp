@@ -1,47 +1,13 @@
 #include "screen/sdl/hochschrift.h"
 #include "screen/pixel.h"
+#include "screen/schriftdatei.h"
 
 #include <ft2build.h>
 #include FT_FREETYPE_H
-#include <fontconfig/fontconfig.h>
 
 #include <cmath>
 
 #include "state/text.h"
-
-namespace {
-
-constexpr const char* BEKANNTE_ORTE[] = {
-    "/usr/share/fonts/truetype/liberation2/LiberationMono-Regular.ttf",
-    "/usr/share/fonts/truetype/liberation/LiberationMono-Regular.ttf",
-};
-
-// The file fontconfig gives for "Courier New", if it is that font or its twin.
-std::string CourierDatei() {
-    std::string datei;
-    FcConfig* konfig = FcInitLoadConfigAndFonts();
-    if (!konfig) return datei;
-    if (FcPattern* muster = FcNameParse(reinterpret_cast<const FcChar8*>("Courier New"))) {
-        FcConfigSubstitute(konfig, muster, FcMatchPattern);
-        FcDefaultSubstitute(muster);
-        FcResult ergebnis = FcResultNoMatch;
-        if (FcPattern* treffer = FcFontMatch(konfig, muster, &ergebnis)) {
-            FcChar8* f = nullptr;
-            FcChar8* fam = nullptr;
-            if (FcPatternGetString(treffer, FC_FILE, 0, &f) == FcResultMatch && f &&
-                FcPatternGetString(treffer, FC_FAMILY, 0, &fam) == FcResultMatch && fam) {
-                const std::string familie = reinterpret_cast<const char*>(fam);
-                if (familie == "Liberation Mono" || familie == "Courier New") datei = reinterpret_cast<const char*>(f);
-            }
-            FcPatternDestroy(treffer);
-        }
-        FcPatternDestroy(muster);
-    }
-    FcConfigDestroy(konfig);
-    return datei;
-}
-
-}  // namespace
 
 struct Hochschrift::Face {
     FT_Library bib = nullptr;
@@ -64,18 +30,8 @@ bool Hochschrift::laden(std::string& fehler) {
         fehler = "Die Schriftbibliothek FreeType lässt sich nicht starten.";
         return false;
     }
-    const std::string gefunden = CourierDatei();
-    if (!gefunden.empty() && FT_New_Face(f->bib, gefunden.c_str(), 0, &f->face) != 0) f->face = nullptr;
-    for (const char* ort : BEKANNTE_ORTE) {
-        if (f->face) break;
-        if (FT_New_Face(f->bib, ort, 0, &f->face) != 0) f->face = nullptr;
-    }
-    if (!f->face) {
-        fehler = "Schriftart 'Courier New' (Liberation Mono) nicht gefunden. "
-                 "Bitte das Paket fonts-liberation2 installieren.";
-        return false;
-    }
-    FT_Select_Charmap(f->face, FT_ENCODING_UNICODE);
+    f->face = COURIER_OEFFNEN(f->bib, fehler);
+    if (!f->face) return false;
     face_ = std::move(f);
     return true;
 }

@@ -1,0 +1,13 @@
+#pragma once
+// The one font of the game, found the same way by the canvas and by the
+// window's sharp layer.
+#include <ft2build.h>
+#include FT_FREETYPE_H
+
+#include <string>
+
+// Courier New or its metric twin Liberation Mono, opened in `bib` with the
+// Unicode map chosen: as fontconfig names it, else from Debian's known places,
+// else whatever fontconfig gave, with a warning. nullptr and a German message
+// in `fehler` when there is none.
+FT_Face COURIER_OEFFNEN(FT_Library bib, std::string& fehler);
