@@ -126,20 +126,27 @@ void Bauen(Spiel& s) {
     SCHIFF_NEU(s, typ);
 }
 
+// How much more a ship gets, asked on the rows of the docks: 0 when the player
+// takes nothing or can't pay for it.
+long WievielMehr(Spiel& s, const std::string& frage, const std::string& preis, int x, int breite, int max, long je) {
+    TEXT_AUSGEBEN(s, frage, 15, 50, 660, WEISS);
+    TEXT_AUSGEBEN(s, preis, 15, 50, 690, WEISS);
+    ZAHL_EINGEBEN(s, 0, max, x, 660, 15, WEISS, breite, max, 0);
+    const long e = s.Eingabe;
+    if (e < 1) return 0;
+    if (je * e > s.Bargeld(s.AktSpieler)) {
+        ABLEHNEN(s, KEIN_GELD, 690);
+        return 0;
+    }
+    return e;
+}
+
 void LaderaumErweitern(Spiel& s) {
     const int n = SchiffFuerAuftrag(s, AUFTRAG_LADERAUM);
     if (n == 0) return;
     Schiff& sch = s.Schiffe(n);
-    const int max = LADERAUM_GRENZE(s, sch, s.AktSpieler) - sch.Laderaum;
-    TEXT_AUSGEBEN(s, "Erweitern um     t", 15, 50, 660, WEISS);
-    TEXT_AUSGEBEN(s, T("1t für 10 SD"), 15, 50, 690, WEISS);
-    ZAHL_EINGEBEN(s, 0, max, 203, 660, 15, WEISS, 4, max, 0);
-    const long e = s.Eingabe;
+    const long e = WievielMehr(s, "Erweitern um     t", T("1t für 10 SD"), 203, 4, LADERAUM_GRENZE(s, sch, s.AktSpieler) - sch.Laderaum, 10);
     if (e < 1) return;
-    if (10 * e > s.Bargeld(s.AktSpieler)) {
-        ABLEHNEN(s, KEIN_GELD, 690);
-        return;
-    }
     Einliefern(s, n, ZUSTAND_WERFT_LADERAUM, static_cast<int>((e + 4) / 5), 10 * e, EST_DOCK_LADERAUM);
     sch.Laderaum = static_cast<Integer>(sch.Laderaum + e);
 }
@@ -148,16 +155,8 @@ void Bewaffnen(Spiel& s) {
     const int n = SchiffFuerAuftrag(s, AUFTRAG_BEWAFFNUNG);
     if (n == 0) return;
     Schiff& sch = s.Schiffe(n);
-    const int max = WAFFEN_GRENZE(s, sch, s.AktSpieler) - sch.Bewaffnung;
-    TEXT_AUSGEBEN(s, "Erweitern um", 15, 50, 660, WEISS);
-    TEXT_AUSGEBEN(s, T("1 für 85 SD"), 15, 50, 690, WEISS);
-    ZAHL_EINGEBEN(s, 0, max, 194, 660, 15, WEISS, 3, max, 0);
-    const long e = s.Eingabe;
+    const long e = WievielMehr(s, "Erweitern um", T("1 für 85 SD"), 194, 3, WAFFEN_GRENZE(s, sch, s.AktSpieler) - sch.Bewaffnung, 85);
     if (e < 1) return;
-    if (85 * e > s.Bargeld(s.AktSpieler)) {
-        ABLEHNEN(s, KEIN_GELD, 690);
-        return;
-    }
     Einliefern(s, n, ZUSTAND_WERFT_WAFFEN, static_cast<int>(2 * e), 85 * e, EST_DOCK_BEWAFFNUNG);
     sch.Bewaffnung = static_cast<Integer>(sch.Bewaffnung + e);
 }
