@@ -194,6 +194,10 @@ int Computerspieler::erkundungsziel(int nr) {
         if (pl.Produktion != 0 || t == hq || ziele_.count(t) || pl.Ware < 1 || pl.Ware > ANZAHL_WAREN) return 0.0;
         const double marge = std::max(0.0, s_.Preis(pl.Ware) - 3.0 * pl.Ware - 0.5);
         const double wert = 2.0 * vonSol_[static_cast<size_t>(t)] + (traeger ? 6.5 * marge : 0.0) + 1.0;
+        // The tour through the system must pay the fillings of the way there and back.
+        int neue = 0;
+        for (int n = System(t) * 10 + 1; n <= System(t) * 10 + 10 && n <= s_.AnzahlPlaneten + 10; ++n) neue += s_.Dokument(n).Produktion == 0;
+        if (wert * neue < 30.0 * (1.0 + 2.0 * static_cast<double>(weg) / (28.0 * schnell))) return 0.0;
         return wert / (static_cast<double>(weg) / schnell + 2.0);
     });
     for (int t : beste)
@@ -211,7 +215,10 @@ int Computerspieler::handelsziel(int nr) {
         if (pl.Produktion == 0 || t == hq || t == sch.Planet || ziele_.count(t) || pl.Ware < 1 || pl.Ware > ANZAHL_WAREN) return 0.0;
         const long menge = std::min<long>(pl.Bestand / 100, frei);
         if (menge < 3 || !Lohnend(s_, pl.Ware, pl.Preis)) return 0.0;
-        return static_cast<double>((s_.Preis(pl.Ware) - pl.Preis) * menge) / (2.0 * kosten + 1.0);
+        // The load must pay the fuel of the way, a filling for every tank's way there and back.
+        const double gewinn = static_cast<double>((s_.Preis(pl.Ware) - pl.Preis) * menge);
+        if (gewinn < 45.0 * (1.0 + 2.0 * static_cast<double>(kosten) / 28.0)) return 0.0;
+        return gewinn / (2.0 * kosten + 1.0);
     });
     for (int t : beste)
         if (halt(nr, t, rueckweg(t))) return t;
