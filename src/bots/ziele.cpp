@@ -185,18 +185,22 @@ int Computerspieler::erkundungsziel(int nr) {
     const long heim = hier == SOL_III ? 0 : vonSol_[static_cast<size_t>(hier)];
     const auto& netz = karte(weite(sch, sch.Tankgroesse));
     std::vector<long> kosten(netz.size(), UNERREICHBAR);
+    const long tank = weite(sch, sch.Treibstoff);
     for (int t = 11; t <= s_.AnzahlPlaneten + 10; ++t) {
+        if (s_.Dokument(t).Produktion != 0) continue;  // discovered: no target
         const long n = netz[static_cast<size_t>(t)];
-        kosten[static_cast<size_t>(t)] = direkt(nr, t) ? ENTFERNUNG(s_, hier, t) : n < UNERREICHBAR ? n + heim : UNERREICHBAR;
+        const long d = ENTFERNUNG(s_, hier, t);
+        kosten[static_cast<size_t>(t)] = d <= tank && d + rueckweg(t) <= tank ? d : n < UNERREICHBAR ? n + heim : UNERREICHBAR;
     }
+    std::vector<int> unentdeckt(static_cast<size_t>(s_.AnzahlPlaneten / 10) + 2, 0);
+    for (int t = 11; t <= s_.AnzahlPlaneten + 10; ++t) unentdeckt[static_cast<size_t>(System(t))] += s_.Dokument(t).Produktion == 0;
     const auto beste = Bestenliste(s_, kosten, [&](int t, long weg) {
         const Planet& pl = s_.Dokument(t);
         if (pl.Produktion != 0 || t == hq || ziele_.count(t) || pl.Ware < 1 || pl.Ware > ANZAHL_WAREN) return 0.0;
         const double marge = std::max(0.0, s_.Preis(pl.Ware) - 3.0 * pl.Ware - 0.5);
         const double wert = 2.0 * vonSol_[static_cast<size_t>(t)] + (traeger ? 6.5 * marge : 0.0) + 1.0;
         // The tour through the system must pay the fillings of the way there and back.
-        int neue = 0;
-        for (int n = System(t) * 10 + 1; n <= System(t) * 10 + 10 && n <= s_.AnzahlPlaneten + 10; ++n) neue += s_.Dokument(n).Produktion == 0;
+        const int neue = unentdeckt[static_cast<size_t>(System(t))];
         if (wert * neue < 30.0 * (1.0 + 2.0 * static_cast<double>(weg) / (28.0 * schnell))) return 0.0;
         return wert / (static_cast<double>(weg) / schnell + 2.0);
     });
