@@ -152,40 +152,6 @@ bool Computerspieler::docks() {
         taste("ENTER");  // ja
         return true;
     }
-    const int raum = ErstesAufSol(s_, p, [&](const Schiff& sch) { return sch.Laderaum < LADERAUM_GRENZE(s_, sch, p); });
-    // Holds grow once the house has cash to spare: a tanker's to a full load for a station.
-    if (raum && geld > 2000 + 10L * s_.Schiffe(raum).Laderaum + RESERVE) {
-        const Schiff& sch = s_.Schiffe(raum);
-        const long n = std::min<long>({LADERAUM_GRENZE(s_, sch, p) - sch.Laderaum, 30, (geld - RESERVE) / 10});
-        menue("D");
-        for (int i = 1; i < AUFTRAG_LADERAUM; ++i) taste("UP");
-        taste("ENTER");
-        taste("ENTER");
-        tippen(std::to_string(n));
-        taste("ENTER");
-        return true;
-    }
-    const int waffen = ErstesAufSol(s_, p, [&](const Schiff& sch) { return sch.Bewaffnung < WAFFEN_GRENZE(s_, sch, p); });
-    if (waffen && (IstKreuzer(s_.Schiffe(waffen)) || wuerfel(40) == 0) && geld > 85 + 2 * RESERVE) {
-        const Schiff& sch = s_.Schiffe(waffen);
-        const long n = std::min<long>(WAFFEN_GRENZE(s_, sch, p) - sch.Bewaffnung, (geld - 2 * RESERVE) / 85);
-        menue("D");
-        for (int i = 1; i < AUFTRAG_BEWAFFNUNG; ++i) taste("UP");
-        taste("ENTER");
-        taste("ENTER");
-        tippen(std::to_string(n));
-        taste("ENTER");
-        return true;
-    }
-    if (s_.Komponenten >= 5 && geld > 200 + RESERVE &&
-        ErstesAufSol(s_, p, [](const Schiff& sch) { return !IstStation(sch) && sch.Tankgroesse == 30; })) {
-        menue("D");
-        for (int i = 1; i < AUFTRAG_DTW_FILTER; ++i) taste("UP");
-        taste("ENTER");
-        taste("ENTER");
-        taste("ENTER");
-        return true;
-    }
     // The fleet a house of this rank wants.
     int piraten = 0;
     for (int i = 1; i <= s_.HoechstesSchiff; ++i) piraten += IstPirat(s_.Schiffe(i)) && !IstFrei(s_.Schiffe(i)) ? 1 : 0;
@@ -197,6 +163,44 @@ bool Computerspieler::docks() {
     for (int k = 1; k <= plaetze; ++k) stationWartet = stationWartet || (s_.DockSchiffe(k, p) > 0 && IstStation(s_.Schiffe(s_.DockSchiffe(k, p))));
     const int hq = s_.Schiffe(PIRATEN_HQ).Planet;
     const bool hqNah = hq > 0 && rueckweg(hq) <= 14;
+    // The next station opens new ground, and new ground pays with first landings: the
+    // house saves for it before anything else grows.
+    const bool sparen = frachter >= 1 && scouts >= 1 && !stationWartet && stationen < 1 + rang + s_.Komponenten && geld <= 4000 &&
+                        standort() != 0;
+    const int raum = ErstesAufSol(s_, p, [&](const Schiff& sch) { return sch.Laderaum < LADERAUM_GRENZE(s_, sch, p); });
+    // Holds grow once the house has cash to spare: a tanker's to a full load for a station.
+    if (raum && !sparen && geld > 2000 + 10L * s_.Schiffe(raum).Laderaum + RESERVE) {
+        const Schiff& sch = s_.Schiffe(raum);
+        const long n = std::min<long>({LADERAUM_GRENZE(s_, sch, p) - sch.Laderaum, 30, (geld - RESERVE) / 10});
+        menue("D");
+        for (int i = 1; i < AUFTRAG_LADERAUM; ++i) taste("UP");
+        taste("ENTER");
+        taste("ENTER");
+        tippen(std::to_string(n));
+        taste("ENTER");
+        return true;
+    }
+    const int waffen = ErstesAufSol(s_, p, [&](const Schiff& sch) { return sch.Bewaffnung < WAFFEN_GRENZE(s_, sch, p); });
+    if (waffen && !sparen && (IstKreuzer(s_.Schiffe(waffen)) || wuerfel(40) == 0) && geld > 85 + 2 * RESERVE) {
+        const Schiff& sch = s_.Schiffe(waffen);
+        const long n = std::min<long>(WAFFEN_GRENZE(s_, sch, p) - sch.Bewaffnung, (geld - 2 * RESERVE) / 85);
+        menue("D");
+        for (int i = 1; i < AUFTRAG_BEWAFFNUNG; ++i) taste("UP");
+        taste("ENTER");
+        taste("ENTER");
+        tippen(std::to_string(n));
+        taste("ENTER");
+        return true;
+    }
+    if (s_.Komponenten >= 5 && !sparen && geld > 200 + RESERVE &&
+        ErstesAufSol(s_, p, [](const Schiff& sch) { return !IstStation(sch) && sch.Tankgroesse == 30; })) {
+        menue("D");
+        for (int i = 1; i < AUFTRAG_DTW_FILTER; ++i) taste("UP");
+        taste("ENTER");
+        taste("ENTER");
+        taste("ENTER");
+        return true;
+    }
     int typ = 0;
     // The first station opens the way out, a tanker keeps it filled, a cruiser earns
     // the pirates' prizes; a second freighter and a scout follow.
@@ -204,6 +208,7 @@ bool Computerspieler::docks() {
     else if (scouts < 1 && geld > 1000) typ = NR_SCOUT;  // first landings pay from the first years on
     else if (!stationWartet && standort() && stationen < 1 + rang + s_.Komponenten && geld > 4000) typ = NR_STATION;
     else if (stationen > 0 && tanker < std::min(1 + stationen / 3, 4) && geld > 1500) typ = NR_TANKER;
+    else if (sparen) typ = 0;
     else if (kreuzer < std::min(1 + (hqNah ? 3 : 0) + piraten / 20, 6) && geld > 2500) typ = NR_KREUZER;
     else if (frachter < 2) typ = NR_FRACHTER;
     else if (frachter < std::min(2 + 2 * rang, 14) && geld > 2500) typ = NR_FRACHTER;
