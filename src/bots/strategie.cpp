@@ -180,8 +180,11 @@ bool Computerspieler::docks() {
         taste("ENTER");
         return true;
     }
-    const int waffen = ErstesAufSol(s_, p, [&](const Schiff& sch) { return sch.Bewaffnung < WAFFEN_GRENZE(s_, sch, p); });
-    if (waffen && !sparen && (IstKreuzer(s_.Schiffe(waffen)) || wuerfel(40) == 0) && geld > 85 + 2 * RESERVE) {
+    // Cruisers are armed first, even while the house saves: they only take on weaker pirates.
+    int waffen = ErstesAufSol(s_, p, [&](const Schiff& sch) { return IstKreuzer(sch) && sch.Bewaffnung < WAFFEN_GRENZE(s_, sch, p); });
+    if (!waffen && !sparen && wuerfel(40) == 0)
+        waffen = ErstesAufSol(s_, p, [&](const Schiff& sch) { return sch.Bewaffnung < WAFFEN_GRENZE(s_, sch, p); });
+    if (waffen && geld > 85 + 2 * RESERVE) {
         const Schiff& sch = s_.Schiffe(waffen);
         const long n = std::min<long>(WAFFEN_GRENZE(s_, sch, p) - sch.Bewaffnung, (geld - 2 * RESERVE) / 85);
         menue("D");
