@@ -305,7 +305,16 @@ bool Computerspieler::station(int nr, const std::vector<std::string>& l) {
     const Schiff& st = s_.Schiffe(nr);
     if (st.Planet == SOL_III && st.Partner == 0) {
         if (tanken(nr, l)) return true;
-        const int ort = standort();
+        // The game couples the first empty freighter here; it fills its tank before it leaves,
+        // so a house without the money for that waits.
+        int traeger = 0;
+        for (int i = 1; i <= s_.HoechstesSchiff && !traeger; ++i) {
+            const Schiff& f = s_.Schiffe(i);
+            if (IstFrachter(f) && f.Besitzer == s_.AktSpieler && f.Zustand == ZUSTAND_RUHT && f.Planet == st.Planet && f.Ladung == 0 && f.Partner == 0)
+                traeger = i;
+        }
+        const bool voll = traeger && (s_.Schiffe(traeger).Treibstoff >= s_.Schiffe(traeger).Tankgroesse || s_.Bargeld(s_.AktSpieler) >= 30);
+        const int ort = voll ? standort() : 0;
         if (Da(l, P_ANKOPPELN) && ort) {
             schlepp_[nr] = ort;
             befehl(nr, l, P_ANKOPPELN);
