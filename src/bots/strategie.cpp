@@ -237,23 +237,30 @@ void Computerspieler::baueZaehlen() {
 bool Computerspieler::schiffVerkaufen() {
     const int p = s_.AktSpieler;
     if (erledigt_.count("verkauf")) return false;
-    // A wreck at home that the house can't afford to mend, or a second scout. Debts alone
+    int wahl = 0;
+    // A house that can't pay a filling sells the dearest ship it can spare at home, and keeps a
+    // freighter to earn its way back with.
+    const int frachter = anzahl(p, TYP_FRACHTER);
+    if (s_.Bargeld(p) < 30)
+        for (int i = 1; i <= s_.HoechstesSchiff; ++i)
+            if (SCHIFF_VERKAEUFLICH(s_, i) && (!IstFrachter(s_.Schiffe(i)) || frachter > 1) && (!wahl || SCHIFF_WERT(s_, i) > SCHIFF_WERT(s_, wahl)))
+                wahl = i;
+    // Else a wreck at home that the house can't afford to mend, or a third scout. Debts alone
     // sell nothing: the house earns its way out with its ships.
-    for (int i = 1; i <= s_.HoechstesSchiff; ++i) {
+    for (int i = 1; i <= s_.HoechstesSchiff && !wahl; ++i) {
         const Schiff& sch = s_.Schiffe(i);
         if (sch.Besitzer != p || !SCHIFF_VERKAEUFLICH(s_, i)) continue;
         const bool wrack = sch.Schaden >= 60 && s_.Bargeld(p) < REPARATUR_PREIS(sch);
-        const bool zuviel = IstScout(sch) && anzahl(p, TYP_SCOUT) > 2;
-        if (!wrack && !zuviel) continue;
-        erledigt_.insert("verkauf");
-        menue("U");
-        taste("SPACE");
-        tippen(std::to_string(i));
-        taste("ENTER");
-        taste("ENTER");
-        return true;
+        if (wrack || (IstScout(sch) && anzahl(p, TYP_SCOUT) > 2)) wahl = i;
     }
-    return false;
+    if (!wahl) return false;
+    erledigt_.insert("verkauf");
+    menue("U");
+    taste("SPACE");
+    tippen(std::to_string(wahl));
+    taste("ENTER");
+    taste("ENTER");
+    return true;
 }
 
 bool Computerspieler::ansehen() {
