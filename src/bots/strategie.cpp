@@ -211,6 +211,7 @@ bool Computerspieler::docks() {
     else if (scouts < 1 && geld > 1000) typ = NR_SCOUT;  // first landings pay from the first years on
     else if (!stationWartet && standort() && stationen < 1 + rang + s_.Komponenten && geld > 4000) typ = NR_STATION;
     else if (stationen > 0 && tanker < std::min(1 + stationen / 3, 4) && geld > 1500) typ = NR_TANKER;
+    else if (kreuzer < 1 && geld > 2500) typ = NR_KREUZER;  // one cruiser for the pirates, saving or not
     else if (sparen) typ = 0;
     else if (kreuzer < std::min(1 + (hqNah ? 3 : 0) + piraten / 20, 6) && geld > 2500) typ = NR_KREUZER;
     else if (frachter < 2) typ = NR_FRACHTER;
