@@ -69,6 +69,7 @@ private:
     void tasteBis(const std::string& name, int x, int y, const std::string& text, int max);
     void auswahlGehen(const std::vector<std::string>& liste, int von, int nach);
     void schiffWaehlen(int nr);
+    void dockAuftrag(int auftrag, int schiff);
     void zielTasten(int schiff, int ziel);
 
     // --- the strategy ---

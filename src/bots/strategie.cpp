@@ -136,6 +136,17 @@ bool Computerspieler::forschen() {
     return true;
 }
 
+// A job of the docks for this ship: the job from the list; the docks offer the
+// ships the job fits, lowest first, and Up goes to the next.
+void Computerspieler::dockAuftrag(int auftrag, int schiff) {
+    menue("D");
+    for (int i = 1; i < auftrag; ++i) taste("UP");
+    taste("ENTER");
+    for (int i = 1; i < schiff; ++i)
+        if (DOCK_AUFTRAG_PASST(s_, auftrag, i)) taste("UP");
+    taste("ENTER");
+}
+
 bool Computerspieler::docks() {
     const int p = s_.AktSpieler;
     const int plaetze = DockPlaetze(s_, p);
@@ -145,10 +156,7 @@ bool Computerspieler::docks() {
     // Jobs on ships at home first, then a new ship.
     const int kaputt = ErstesAufSol(s_, p, [](const Schiff& sch) { return sch.Schaden > 0; });
     if (kaputt && s_.Schiffe(kaputt).Schaden >= 25 && geld > REPARATUR_PREIS(s_.Schiffe(kaputt)) + RESERVE / 2) {
-        menue("D");
-        for (int i = 1; i < AUFTRAG_REPARATUR; ++i) taste("UP");
-        taste("ENTER");
-        taste("ENTER");  // the ship
+        dockAuftrag(AUFTRAG_REPARATUR, kaputt);
         taste("ENTER");  // ja
         return true;
     }
@@ -172,10 +180,7 @@ bool Computerspieler::docks() {
     if (raum && !sparen && geld > 2000 + 10L * s_.Schiffe(raum).Laderaum + RESERVE) {
         const Schiff& sch = s_.Schiffe(raum);
         const long n = std::min<long>({LADERAUM_GRENZE(s_, sch, p) - sch.Laderaum, 30, (geld - RESERVE) / 10});
-        menue("D");
-        for (int i = 1; i < AUFTRAG_LADERAUM; ++i) taste("UP");
-        taste("ENTER");
-        taste("ENTER");
+        dockAuftrag(AUFTRAG_LADERAUM, raum);
         tippen(std::to_string(n));
         taste("ENTER");
         return true;
@@ -187,20 +192,14 @@ bool Computerspieler::docks() {
     if (waffen && geld > 85 + 2 * RESERVE) {
         const Schiff& sch = s_.Schiffe(waffen);
         const long n = std::min<long>(WAFFEN_GRENZE(s_, sch, p) - sch.Bewaffnung, (geld - 2 * RESERVE) / 85);
-        menue("D");
-        for (int i = 1; i < AUFTRAG_BEWAFFNUNG; ++i) taste("UP");
-        taste("ENTER");
-        taste("ENTER");
+        dockAuftrag(AUFTRAG_BEWAFFNUNG, waffen);
         tippen(std::to_string(n));
         taste("ENTER");
         return true;
     }
-    if (s_.Komponenten >= 5 && !sparen && geld > 200 + RESERVE &&
-        ErstesAufSol(s_, p, [](const Schiff& sch) { return !IstStation(sch) && sch.Tankgroesse == 30; })) {
-        menue("D");
-        for (int i = 1; i < AUFTRAG_DTW_FILTER; ++i) taste("UP");
-        taste("ENTER");
-        taste("ENTER");
+    const int filter = ErstesAufSol(s_, p, [](const Schiff& sch) { return !IstStation(sch) && sch.Tankgroesse == 30; });
+    if (s_.Komponenten >= 5 && !sparen && geld > 200 + RESERVE && filter) {
+        dockAuftrag(AUFTRAG_DTW_FILTER, filter);
         taste("ENTER");
         return true;
     }

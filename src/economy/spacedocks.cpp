@@ -54,23 +54,9 @@ void DockListe(Spiel& s, int p, int m) {
     }
 }
 
-// Whether the job can be done on this ship at all.
-bool PasstFuer(const Spiel& s, int auftrag, int n) {
-    const Schiff& sch = s.Schiffe(n);
-    const int p = s.AktSpieler;
-    if (IstFrei(sch) || sch.Besitzer != p || sch.Zustand != ZUSTAND_RUHT || sch.Planet != SOL_III) return false;
-    switch (auftrag) {
-        case AUFTRAG_LADERAUM: return sch.Laderaum < LADERAUM_GRENZE(s, sch, p);
-        case AUFTRAG_BEWAFFNUNG: return sch.Bewaffnung < WAFFEN_GRENZE(s, sch, p);
-        case AUFTRAG_REPARATUR: return sch.Schaden > 0;
-        case AUFTRAG_DTW_FILTER: return !IstStation(sch) && sch.Tankgroesse == 30;
-        default: return false;
-    }
-}
-
 // The ship for a job, chosen with Up and Down; 0 when there is none or on Esc.
 int SchiffFuerAuftrag(Spiel& s, int auftrag) {
-    auto passt = [&s, auftrag](int n) { return PasstFuer(s, auftrag, n); };
+    auto passt = [&s, auftrag](int n) { return DOCK_AUFTRAG_PASST(s, auftrag, n); };
     int n = 0;
     for (int i = 1; i <= s.HoechstesSchiff && n == 0; ++i)
         if (passt(i)) n = i;
@@ -192,6 +178,19 @@ void FilterEinbauen(Spiel& s) {
 }
 
 }  // namespace
+
+bool DOCK_AUFTRAG_PASST(const Spiel& s, int auftrag, int n) {
+    const Schiff& sch = s.Schiffe(n);
+    const int p = s.AktSpieler;
+    if (IstFrei(sch) || sch.Besitzer != p || sch.Zustand != ZUSTAND_RUHT || sch.Planet != SOL_III) return false;
+    switch (auftrag) {
+        case AUFTRAG_LADERAUM: return sch.Laderaum < LADERAUM_GRENZE(s, sch, p);
+        case AUFTRAG_BEWAFFNUNG: return sch.Bewaffnung < WAFFEN_GRENZE(s, sch, p);
+        case AUFTRAG_REPARATUR: return sch.Schaden > 0;
+        case AUFTRAG_DTW_FILTER: return !IstStation(sch) && sch.Tankgroesse == 30;
+        default: return false;
+    }
+}
 
 long REPARATUR_PREIS(const Schiff& sch) {
     const long d = sch.Schaden;

@@ -13,3 +13,6 @@ int LADERAUM_GRENZE(const Spiel& s, const Schiff& sch, int p);
 int WAFFEN_GRENZE(const Spiel& s, const Schiff& sch, int p);
 // What the docks take for mending the ship's damage.
 long REPARATUR_PREIS(const Schiff& sch);
+// Whether a job of the docks can be done on ship n of AktSpieler: at rest on
+// Sol III, and the job still possible for it.
+bool DOCK_AUFTRAG_PASST(const Spiel& s, int auftrag, int n);
