@@ -139,6 +139,16 @@ FT_Face COURIER_OEFFNEN(FT_Library bib, std::string& fehler) {
     return face;
 }
 
+bool SCHRIFT_STARTEN(FT_Library& bib, FT_Face& face, std::string& fehler) {
+    if (FT_Init_FreeType(&bib) != 0) {
+        bib = nullptr;
+        fehler = "Die Schriftbibliothek FreeType lässt sich nicht starten.";
+        return false;
+    }
+    face = COURIER_OEFFNEN(bib, fehler);
+    return face != nullptr;
+}
+
 // Here, where the font's parts are known: the canvas starts black.
 Leinwand::Leinwand() : pix_(static_cast<size_t>(BREITE) * HOEHE) { leeren(); }
 Leinwand::~Leinwand() = default;
@@ -146,13 +156,7 @@ Leinwand::~Leinwand() = default;
 bool Leinwand::schriftLaden(std::string& fehler) {
     if (schrift_) return true;
     auto s = std::make_unique<Schrift>();
-    if (FT_Init_FreeType(&s->bib) != 0) {
-        s->bib = nullptr;
-        fehler = "Die Schriftbibliothek FreeType lässt sich nicht starten.";
-        return false;
-    }
-    s->face = COURIER_OEFFNEN(s->bib, fehler);
-    if (!s->face) return false;
+    if (!SCHRIFT_STARTEN(s->bib, s->face, fehler)) return false;
     schrift_ = std::move(s);
     return true;
 }

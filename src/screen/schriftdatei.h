@@ -11,3 +11,8 @@
 // else whatever fontconfig gave, with a warning. nullptr and a German message
 // in `fehler` when there is none.
 FT_Face COURIER_OEFFNEN(FT_Library bib, std::string& fehler);
+
+// FreeType started and the font opened into `bib` and `face`; false with a
+// German message in `fehler`, and whatever was started left for the caller
+// to free.
+bool SCHRIFT_STARTEN(FT_Library& bib, FT_Face& face, std::string& fehler);

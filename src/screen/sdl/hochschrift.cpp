@@ -25,13 +25,7 @@ Hochschrift::~Hochschrift() = default;
 bool Hochschrift::laden(std::string& fehler) {
     if (face_) return true;
     auto f = std::make_unique<Face>();
-    if (FT_Init_FreeType(&f->bib) != 0) {
-        f->bib = nullptr;
-        fehler = "Die Schriftbibliothek FreeType lässt sich nicht starten.";
-        return false;
-    }
-    f->face = COURIER_OEFFNEN(f->bib, fehler);
-    if (!f->face) return false;
+    if (!SCHRIFT_STARTEN(f->bib, f->face, fehler)) return false;
     face_ = std::move(f);
     return true;
 }
