@@ -2,6 +2,7 @@
 // Everything the game needs from outside itself. The game logic talks only
 // to this; the SDL window and the headless platform implement it.
 #include <cstdint>
+#include <memory>
 #include <string>
 
 // Colours are the game's blue-green-red numbers (255 red, 65280 green, ...).
@@ -39,6 +40,13 @@ struct Plattform {
     virtual void box(int x1, int y1, int x2, int y2, Farbe f) = 0;  // filled, both corners inclusive
     virtual void kreis(int cx, int cy, int r, Farbe f, bool gefuellt, int breite) = 0;
     virtual void bild(const std::string& schluessel, int x, int y) = 0;
+    // Everything the screen shows, to be put back exactly after something was
+    // laid over it for a while (a help page, a question asked in the window).
+    struct Bildstand {
+        virtual ~Bildstand() = default;
+    };
+    virtual std::shared_ptr<Bildstand> bildSichern() = 0;
+    virtual void bildZurueck(const std::shared_ptr<Bildstand>& stand) = 0;
 
     // --- time and events ----------------------------------------------------
     virtual void schlafen(int ms) = 0;

@@ -152,6 +152,27 @@ void HeadlessPlattform::bild(const std::string& schluessel, int x, int y) {
     posten_.push_back(std::move(p));
 }
 
+struct HeadlessPlattform::Stand : Plattform::Bildstand {
+    std::vector<uint32_t> pixel;
+    std::vector<Posten> posten;
+};
+
+std::shared_ptr<Plattform::Bildstand> HeadlessPlattform::bildSichern() {
+    auto st = std::make_shared<Stand>();
+    if (pixel_) st->pixel = leinwand_.kopie();
+    st->posten = posten_;
+    return st;
+}
+
+void HeadlessPlattform::bildZurueck(const std::shared_ptr<Bildstand>& stand) {
+    const auto* st = dynamic_cast<const Stand*>(stand.get());
+    if (!st) return;
+    nichtGeschlafen();
+    spurZeile("restore");
+    if (pixel_) leinwand_.zurueckholen(st->pixel);
+    posten_ = st->posten;
+}
+
 std::string HeadlessPlattform::textBei(int x, int y) const {
     for (auto it = posten_.rbegin(); it != posten_.rend(); ++it) {
         if (!it->istText || it->x != x || it->y != y) continue;

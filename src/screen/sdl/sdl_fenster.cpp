@@ -235,6 +235,28 @@ void SdlPlattform::bild(const std::string& schluessel, int x, int y) {
     if (leinwand_.bild(schluessel, x, y)) geaendert(hoch_.bild(schluessel, x, y));
 }
 
+namespace {
+struct SdlStand : Plattform::Bildstand {
+    std::vector<uint32_t> pixel;
+    std::shared_ptr<Hochbild::Stand> hoch;
+};
+}  // namespace
+
+std::shared_ptr<Plattform::Bildstand> SdlPlattform::bildSichern() {
+    auto st = std::make_shared<SdlStand>();
+    st->pixel = leinwand_.kopie();
+    st->hoch = hoch_.sichern();
+    return st;
+}
+
+void SdlPlattform::bildZurueck(const std::shared_ptr<Bildstand>& stand) {
+    const auto* st = dynamic_cast<const SdlStand*>(stand.get());
+    if (!st) return;
+    leinwand_.zurueckholen(st->pixel);
+    hoch_.zurueckholen(st->hoch);
+    geaendert(Hochbild::Rechteck{0, 0, Leinwand::BREITE - 1, Leinwand::HOEHE - 1});
+}
+
 // --- the wait ----------------------------------------------------------------------
 
 bool SdlPlattform::sammeln() {

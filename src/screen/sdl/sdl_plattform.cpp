@@ -255,8 +255,7 @@ int SdlPlattform::sdlBox(const std::string& titel, const std::string& text, BoxA
 
 bool SdlPlattform::gemalteBox(const std::string& titel, const std::string& text, bool istFrage) {
     if (!fenster_) return !istFrage;  // no window: nobody could answer
-    const std::vector<uint32_t> vorher = leinwand_.kopie();
-    const std::shared_ptr<Hochbild::Stand> hochVorher = hoch_.sichern();
+    const std::shared_ptr<Bildstand> vorher = bildSichern();
     std::vector<std::string> zeilen = BoxZeilen(text, 70);
     size_t laengste = std::max<size_t>(titel.size(), 20);
     for (const auto& z : zeilen) laengste = std::max(laengste, z.size());
@@ -308,9 +307,7 @@ bool SdlPlattform::gemalteBox(const std::string& titel, const std::string& text,
     SDL_PumpEvents();
     SDL_FlushEvents(SDL_TEXTEDITING, SDL_TEXTINPUT);
     xUngelesen_ = true;
-    leinwand_.zurueckholen(vorher);
-    hoch_.zurueckholen(hochVorher);
-    geaendert(Hochbild::Rechteck{0, 0, Leinwand::BREITE - 1, Leinwand::HOEHE - 1});
+    bildZurueck(vorher);
     zeigen(true);
     return antwort == 1;
 }
