@@ -42,9 +42,11 @@ void ZugBeenden(Spiel& s) {
     s.tmrZeitAn = false;
     if (s.AktSpieler == s.AnzahlSpieler) {
         if (s.AnzahlSpieler > 1) s.MenueText(1) = MENUE_SPIELER;
+        s.ImZug = false;
         for (int i = 0; i < s.AussetzenJahre; ++i) RUNDE_AUSFUEHREN(s);
         s.AussetzenJahre = 0;
         RUNDE_AUSFUEHREN(s);
+        s.ImZug = true;
         s.AktSpieler = 1;
         KOPFZEILE(s);
     } else {
@@ -106,9 +108,17 @@ void SPIELSCHLEIFE(Spiel& s) {
     }
     if (s.AnzahlSpieler == 1) s.MenueText(1) = MENUE_JAHR;
     s.Eingabe = 1;
+    s.ImZug = true;
 
+    Long zugJahr = -1;
+    Integer zugSpieler = 0;
     for (;;) {
         s.Bildschirm = "UNBEKANNT";
+        if (zugJahr != s.Jahr || zugSpieler != s.AktSpieler) {
+            zugJahr = s.Jahr;
+            zugSpieler = s.AktSpieler;
+            if (s.haken.ZugBeginnt) s.haken.ZugBeginnt(s);
+        }
         if (s.Zeitlimit == -1 && s.ZeitRest == 0) {
             s.Eingabe = 1;
             TEXT_AUSGEBEN(s, "Zeit ist abgelaufen!", 15, 50, 630, WEISS);

@@ -80,6 +80,7 @@ struct Haken {
     void (*Beenden)(Spiel&, int) = nullptr;        // the window closes: the program ends
     void (*Sichern)(Spiel&) = nullptr;             // the save ordered for the start of a year
     void (*NachDemJahr)(Spiel&) = nullptr;         // a year is done (the computer players watch it)
+    void (*ZugBeginnt)(Spiel&) = nullptr;          // a player's turn begins, at its first main menu
 };
 
 struct Spiel {
@@ -161,6 +162,11 @@ struct Spiel {
     Integer MeldungAnzahl = 0;
     Integer MeldungSeite = 1;
     Long MeldungenAusgelassen = 0;  // lines of this year that did not fit the table
+
+    // Who plays each house: 0 a person, -1 the computer. Not in the saved
+    // game itself; it travels in the companion file beside it.
+    Feld<Integer, 1, 6> Computer;
+    bool ImZug = false;  // a player gives his orders (not the intro, not the year)
 
     Feld<std::string, 1, 100> Dateiliste;
     Integer DateiNummer = 0;
