@@ -191,7 +191,7 @@ void Computerspieler::jahrBeendet() {
                          sch.Dauer, sch.Ladung, sch.Laderaum, static_cast<double>(sch.Treibstoff), sch.Schaden, sch.Bewaffnung);
         }
     }
-    if (jahreGespielt_ % 100 == 0) {
+    if (!a_.nebenMenschen && jahreGespielt_ % 100 == 0) {
         std::printf("%ld Jahre gespielt (Jahr %ld)\n", jahreGespielt_, static_cast<long>(s_.Jahr));
         std::fflush(stdout);
     }
