@@ -28,6 +28,7 @@ struct Mensch : SdlPlattform {
     long sichernIm = -1;      // the year in which he orders a save
     long schliessenAb = 0;    // from this year on he closes the window
     bool gesichert = false, benannt = false;
+    bool musikAus = false;
     int berichte = 0;         // computer turns' boxes he saw
     int kurz = 0;
     double laengstesWarten = 0;  // seconds from his end of turn to his next turn
@@ -38,6 +39,10 @@ struct Mensch : SdlPlattform {
         SdlPlattform::schlafen(ms);
     }
     void pumpen() override {
+        if (musikAus && gegner->plattform().computerAmZug()) {
+            musikAus = false;  // F5 during a computer's turn: the music goes off, the computer plays on
+            Druecken(SDLK_F5);
+        }
         if (kurz >= 3 && !gegner->plattform().computerAmZug()) {
             kurz = 0;
             if (tasten.empty() && start.empty()) planen();
@@ -62,6 +67,8 @@ struct Mensch : SdlPlattform {
             benannt = true;
             for (const char* c : {"r", "o", "l", "l", "e", "n"}) tasten.push_back({static_cast<SDL_Keycode>(c[0]), c});
             tasten.push_back({SDLK_RETURN, nullptr});
+        } else if (!s->ImZug) {
+            tasten.push_back({SDLK_SPACE, " "});  // a page of the year (a story, an invention) waits for him
         } else if (s->Bildschirm == "HAUPT" && s->Computer(s->AktSpieler) == 0) {
             if (zugEnde != Uhr::time_point{})
                 laengstesWarten = std::max(laengstesWarten, std::chrono::duration<double>(Uhr::now() - zugEnde).count());
@@ -123,6 +130,7 @@ TEST(Gegner, EinMenschGegenFuenfComputerSichertLaedtUndSpieltWeiter) {
             a.mensch->start.push_back({E, nullptr});
         }
         a.mensch->sichernIm = 2009;
+        a.mensch->musikAus = true;
         a.mensch->schliessenAb = 2010;
         EXPECT_EQ(a.spielen(), 0);
         const Spiel& s = *a.spiel;
@@ -132,6 +140,7 @@ TEST(Gegner, EinMenschGegenFuenfComputerSichertLaedtUndSpieltWeiter) {
         EXPECT_EQ(s.Computer(1), 0);
         for (int p = 2; p <= 6; ++p) EXPECT_EQ(s.Computer(p), -1) << "house " << p;
         EXPECT_GE(a.mensch->berichte, 9) << "after each year the person read what the computers did";
+        EXPECT_EQ(s.SoundAn, 0) << "F5 reached the game during a computer's turn";
         EXPECT_GT(SchiffeDerComputer(s), 5) << "the computer houses bought ships";
         EXPECT_TRUE(fs::exists(daten + "/rollen.qvt"));
         std::printf("Longest wait for the person's next turn (five computer turns and the year): %.3f s\n",
