@@ -7,6 +7,13 @@ add_library(quorvant_bots STATIC ${BOT_QUELLEN})
 target_include_directories(quorvant_bots PUBLIC ${QUORVANT_INC}/bots ${QUORVANT_INC}/flow)
 target_link_libraries(quorvant_bots PUBLIC quorvant_headless quorvant_kern)
 target_link_libraries(quorvant-headless PRIVATE quorvant_bots)
+# In the window they are the opponents of a person who plays alone.
+if(TARGET quorvant)
+  target_link_libraries(quorvant PRIVATE quorvant_bots)
+endif()
+if(TARGET quorvant_sdl_tests)
+  target_link_libraries(quorvant_sdl_tests PRIVATE quorvant_bots)
+endif()
 
 if(TARGET quorvant_tests)
   target_link_libraries(quorvant_tests PRIVATE quorvant_bots)

@@ -105,3 +105,18 @@ TEST(Hauptschleife, BeendenMitSichernSpeichertAmRundenende) {
     const Spiel geladen = ZustandAus(datei);
     EXPECT_TRUE(geladen.Jahr == 2000 && geladen.SpielerName(1) == "Spieler1");
 }
+
+// A save that cannot be written says so in whole words, all of it, and the
+// game goes on; the old files stay as they were.
+TEST(Hauptschleife, MisslungenesSichernSagtEsGanz) {
+    Runde r("key I\nkey ENTER\nkey W\nkey ENTER\ntype voll\nkey ENTER\nwait 5000\nkey ESC");
+    std::filesystem::create_directories(r.s->DatenVerzeichnis + "/voll.qvz.neu");  // nothing can be written there
+    r.spielen();
+    const std::string& spur = r.p->spur();
+    const size_t a = spur.find("print 50 630 15 255 Der Spielstand konnte nicht\n");
+    const size_t b = spur.find(Utf8(T("print 50 660 15 255 geschrieben werden (Datenträger voll\n")));
+    const size_t c = spur.find(Utf8(T("print 50 690 15 255 oder schreibgeschützt?).\n")));
+    EXPECT_TRUE(a != std::string::npos && a < b && b < c && c != std::string::npos) << spur.substr(spur.find("voll"));
+    EXPECT_FALSE(std::filesystem::exists(r.s->DatenVerzeichnis + "/voll.qvt"));
+    EXPECT_EQ(r.s->Jahr, 2001) << "the year ran all the same";
+}

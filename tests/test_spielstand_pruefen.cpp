@@ -4,6 +4,7 @@
 
 #include <cmath>
 
+#include "flow/begleitdatei.h"
 #include "hilfe.h"
 
 namespace {
@@ -71,4 +72,61 @@ TEST(SpielstandPruefen, AbgelehnterSpielstandBleibtUnberuehrt) {
                       ("quorvant-test-" + std::to_string(::getpid()) + "-kaputt") / "Daten" / "kaputt.qvt";
     const std::vector<uint8_t> b = SPIELSTAND_BYTES(s);
     EXPECT_EQ(Datei(pfad.string()), std::string(b.begin(), b.end())) << "the refused file is left as it was";
+}
+
+// The companion file beside a saved game: who plays each house travels in
+// it; damage to it refuses the load like damage to the game, and both files
+// stay as they were.
+TEST(SpielstandPruefen, ZusatzdateiTraegtDieRollenUndWirdBeiSchadenAbgelehnt) {
+    Spiel s = NeuesSpielZustand(3, 1000);
+    s.Computer(2) = -1;
+    const std::vector<uint8_t> spiel = SPIELSTAND_BYTES(s);
+    const std::vector<uint8_t> zusatz = BEGLEIT_BYTES(s, spiel);
+    std::string fehler;
+    Spiel t = s;
+    t.Computer = {};
+    ASSERT_TRUE(BEGLEIT_LESEN(t, zusatz, spiel, fehler)) << fehler;
+    EXPECT_TRUE(t.Computer(1) == 0 && t.Computer(2) == -1 && t.Computer(3) == 0);
+
+    t.Computer = {};
+    std::vector<uint8_t> anderes = spiel;
+    anderes[10] ^= 1;
+    EXPECT_TRUE(BEGLEIT_LESEN(t, zusatz, anderes, fehler)) << "written with another save: left aside";
+    EXPECT_EQ(t.Computer(2), 0);
+
+    auto beschaedigt = [&](std::vector<uint8_t> b) {
+        fehler.clear();
+        EXPECT_FALSE(BEGLEIT_LESEN(t, b, spiel, fehler));
+        return Utf8(fehler);
+    };
+    std::vector<uint8_t> b = zusatz;
+    b[16] ^= 0x40;
+    EXPECT_EQ(beschaedigt(b), "Die Zusatzdatei zum Spielstand ist beschädigt (Prüfsumme falsch).");
+    b.assign(zusatz.begin(), zusatz.begin() + 9);
+    EXPECT_NE(beschaedigt(b).find("keine Quorvant-Zusatzdatei"), std::string::npos);
+    Spiel vier = s;
+    vier.Computer(4) = -1;  // a house the game does not have
+    EXPECT_NE(beschaedigt(BEGLEIT_BYTES(vier, spiel)).find("Rollen"), std::string::npos);
+    EXPECT_EQ(t.Computer(2), 0) << "a refused companion changes nothing";
+
+    // Through the load dialog: refused, the new-game dialog follows, both files untouched.
+    const std::string daten = DatenKopie("zusatz");
+    std::filesystem::create_directories(daten + "/Daten");
+    const std::string pfad = daten + "/Daten/zusatz.qvt";
+    ASSERT_TRUE(SPIELSTAND_DATEI_SCHREIBEN(s, pfad, fehler)) << fehler;
+    const std::string qvz = BEGLEIT_PFAD(pfad);
+    EXPECT_EQ(qvz, daten + "/Daten/zusatz.qvz");
+    std::string kaputt = Datei(qvz);
+    kaputt[12] ^= 0x01;
+    std::ofstream(qvz, std::ios::binary) << kaputt;
+    const TreiberLauf lauf = Treiber(LadeSkript(), "--seed 7", daten);
+    EXPECT_NE(lauf.trace.find("beschädigt (Prüfsumme falsch)"), std::string::npos) << lauf.fehler;
+    EXPECT_NE(lauf.screen.find(Utf8(T("Wie viele Spieler (1-6)?"))), std::string::npos) << lauf.screen;
+    EXPECT_EQ(Datei(qvz), kaputt);
+    EXPECT_EQ(Datei(pfad), std::string(spiel.begin(), spiel.end()));
+
+    // Without its companion the game loads, its houses played by persons.
+    std::filesystem::remove(qvz);
+    const TreiberLauf ohne = Treiber(LadeSkript(), "--seed 7", daten);
+    EXPECT_EQ(ohne.state.size() > 0 ? ZustandAus(ohne).Jahr : 0, s.Jahr + 1) << ohne.fehler;
 }

@@ -35,7 +35,7 @@ bool SYSTEME_ERLAUBT(int systeme) {
     return false;
 }
 
-Computerspieler::Computerspieler(Spiel& s, HeadlessPlattform& p, const BotAuftrag& a)
+Computerspieler::Computerspieler(Spiel& s, ComputerPlattform& p, const BotAuftrag& a)
     : s_(s), p_(p), a_(a), zufall_(0x9E3779B97F4A7C15ULL ^ a.saat), spur_(std::getenv("QUORVANT_BOTS_SPUR") != nullptr) {
     if (!a_.bericht.empty()) {
         bericht_.open(a_.bericht, std::ios::binary);
@@ -99,9 +99,14 @@ void Computerspieler::schiffWaehlen(int nr) {
 }
 
 std::string Computerspieler::eingabe() {
-    if (++eingabenImJahr_ > EINGABEN_JE_JAHR)
-        abbrechen("Jahr " + std::to_string(s_.Jahr) + ": das Spiel kommt nicht weiter (Bildschirm " + s_.Bildschirm + ")");
     const bool haupt = s_.Bildschirm == "HAUPT";
+    if (++eingabenImJahr_ > EINGABEN_JE_JAHR && a_.nebenMenschen) {
+        // Stuck beside persons: leave the dialog and end the turn; the game goes on.
+        plan_.clear();
+        return haupt ? "key W\nkey ENTER\n" : "key ESC\n";
+    }
+    if (eingabenImJahr_ > EINGABEN_JE_JAHR)
+        abbrechen("Jahr " + std::to_string(s_.Jahr) + ": das Spiel kommt nicht weiter (Bildschirm " + s_.Bildschirm + ")");
     for (int runde = 0; runde < 2; ++runde) {
         while (!plan_.empty()) {
             Schritt& st = plan_.front();
@@ -186,7 +191,7 @@ void Computerspieler::jahrBeendet() {
                          sch.Dauer, sch.Ladung, sch.Laderaum, static_cast<double>(sch.Treibstoff), sch.Schaden, sch.Bewaffnung);
         }
     }
-    if (jahreGespielt_ % 100 == 0) {
+    if (!a_.nebenMenschen && jahreGespielt_ % 100 == 0) {
         std::printf("%ld Jahre gespielt (Jahr %ld)\n", jahreGespielt_, static_cast<long>(s_.Jahr));
         std::fflush(stdout);
     }
@@ -225,19 +230,21 @@ int COMPUTERSPIEL(const BotAuftrag& a, const std::string& daten, HeadlessPlattfo
     s.ProgrammVerzeichnis = daten;
     s.DatenVerzeichnis = ordner.string();
 
-    Computerspieler bot(s, p, a);
+    // The start script (intro, new game or the choice of the file) comes from
+    // the headless platform; from then on the houses answer every prompt.
+    ComputerPlattform computer(p);
+    Computerspieler bot(s, computer, a);
     aktiverSpieler = &bot;
+    computer.computerSetzen([&bot] { return bot.eingabe(); }, [&p] { return p.skriptAufgebraucht(); });
     s.haken.NachDemJahr = [](Spiel&) { aktiverSpieler->jahrBeendet(); };
     std::string fehler;
     p.skriptLaden(bot.startSkript(), fehler);
-    p.nachschubSetzen([&bot] { return bot.eingabe(); });
     p.saatFestlegen(a.saat);
     p.maxMsFestlegen(4000000000000000000LL);
 
     const auto start = std::chrono::steady_clock::now();
-    int status = PROGRAMM_AUSFUEHREN(s, p);
+    int status = PROGRAMM_AUSFUEHREN(s, computer);
     const double sek = std::chrono::duration<double>(std::chrono::steady_clock::now() - start).count();
-    p.nachschubSetzen(nullptr);
     s.haken.NachDemJahr = nullptr;
     aktiverSpieler = nullptr;
     std::error_code ec;

@@ -10,6 +10,7 @@
 #include <string>
 #include <vector>
 
+#include "bots/computerplattform.h"
 #include "screen/headless/headless_plattform.h"
 #include "state/spiel.h"
 
@@ -22,6 +23,10 @@ struct BotAuftrag {
     bool pruefen = false;  // the invariants after every year
     std::string bericht;   // CSV file, one row a year; "" none
     std::string laden;     // a saved game the houses play on from; "" a new game
+    // Playing beside persons in the window: the houses never order a save or
+    // sit out years (that would be the persons' business), and a house that
+    // cannot get on in a dialog ends its turn instead of the run.
+    bool nebenMenschen = false;
 };
 
 // The sizes of the galaxy the new-game dialog offers, in its order.
@@ -36,7 +41,7 @@ std::string BERICHT_ZEILE(const Spiel& s, const std::vector<long>& gebaut, const
 
 class Computerspieler {
 public:
-    Computerspieler(Spiel& s, HeadlessPlattform& p, const BotAuftrag& a);
+    Computerspieler(Spiel& s, ComputerPlattform& p, const BotAuftrag& a);
 
     // The inputs of the intro and the new-game dialog.
     std::string startSkript() const;
@@ -114,7 +119,7 @@ private:
     [[noreturn]] void abbrechen(const std::string& text);
 
     Spiel& s_;
-    HeadlessPlattform& p_;
+    ComputerPlattform& p_;
     BotAuftrag a_;
     std::deque<Schritt> plan_;
     uint64_t zufall_;

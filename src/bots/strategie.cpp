@@ -60,13 +60,13 @@ void Computerspieler::zugPlanen() {
     }
     if (++aktionen_ <= AKTIONEN_JE_ZUG) {
         const long jahr = s_.Jahr - 2000;
-        if (p == 1 && jahr % 50 == 49 && !sichernBestellt_ && gesichert_.empty() && erledigt_.insert("sichern").second) {
+        if (!a_.nebenMenschen && p == 1 && jahr % 50 == 49 && !sichernBestellt_ && gesichert_.empty() && erledigt_.insert("sichern").second) {
             sichernBestellt_ = true;
             menue("I");
             return;
         }
         if (verkaufen() || schiffVerkaufen() || kreditRegeln() || docks() || schiffAnweisen() || forschen() || ansehen()) return;
-        if (p == 1 && jahr % 100 == 61 && erledigt_.insert("aussetzen").second) {
+        if (!a_.nebenMenschen && p == 1 && jahr % 100 == 61 && erledigt_.insert("aussetzen").second) {
             menue("A");
             tippen("2");
             taste("ENTER");

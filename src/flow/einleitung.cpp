@@ -92,7 +92,12 @@ Long Startkapital(Spiel& s) {
     }
 }
 
-std::string NameEingeben(Spiel& s, int y) {
+// Beside the name: whether the computer plays this house (F2 toggles it).
+void ComputerZeigen(Spiel& s, int p, int y) {
+    TEXT_AUSGEBEN(s, s.Computer(p) == -1 ? "Computer" : "        ", 15, 666, y, CYAN);
+}
+
+std::string NameEingeben(Spiel& s, int y, int p) {
     std::string name;
     s.TastenZeichen.clear();
     for (;;) {
@@ -102,7 +107,11 @@ std::string NameEingeben(Spiel& s, int y) {
             DoEvents(s);
         }
         const int c = s.TasteDa ? s.TastenCode : 0;
-        if (c == Taste::Enter) return name;
+        if (c == Taste::Enter) return name.empty() && s.Computer(p) == -1 ? "Computer" + std::to_string(p) : name;
+        if (c == Taste::F2) {
+            s.Computer(p) = s.Computer(p) == -1 ? 0 : -1;
+            ComputerZeigen(s, p, y);
+        }
         if (c == Taste::Backspace) {
             if (!name.empty()) name.pop_back();
             TEXT_AUSGEBEN(s, name + " ", 15, 518, y, ROT);
@@ -139,11 +148,14 @@ void NeuesSpiel(Spiel& s) {
     Randomize(s, s.plattform->saat());
     VORBELEGUNG_VARIABLEN(s);
 
+    s.Computer = {};
+    TEXT_AUSGEBEN(s, T("F2: diesen Spieler vom Computer spielen lassen (noch einmal F2: selbst spielen)"), 15, 30,
+                  600, GELB);
     for (int p = 1; p <= s.AnzahlSpieler; ++p) {
         s.AktSpieler = static_cast<Integer>(p);
         const int y = 280 + 40 * p;
         TEXT_AUSGEBEN(s, "Name des " + std::to_string(p) + ". Spielers (max. 10 Zeichen):", 15, 30, y, ROT);
-        s.SpielerName(p) = NameEingeben(s, y);
+        s.SpielerName(p) = NameEingeben(s, y, p);
         s.Bargeld(p) = s.Bargeld(1) + 1000;  // the first Frachter is a gift
         s.Rang(p) = 1;
         for (int g = 1; g <= 10; ++g) s.Lager(g, p) = 0;

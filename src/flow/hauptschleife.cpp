@@ -40,6 +40,7 @@ std::vector<std::string> Liste(const Feld<std::string, 1, 12>& f) {
 
 void ZugBeenden(Spiel& s) {
     s.tmrZeitAn = false;
+    if (s.haken.ZugEndet) s.haken.ZugEndet(s);
     if (s.AktSpieler == s.AnzahlSpieler) {
         if (s.AnzahlSpieler > 1) s.MenueText(1) = MENUE_SPIELER;
         s.ImZug = false;

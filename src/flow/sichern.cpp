@@ -4,6 +4,8 @@
 #include <fstream>
 #include <iterator>
 
+#include "flow/begleitdatei.h"
+#include "flow/dateien.h"
 #include "flow/programm.h"
 #include "flow/spielstand.h"
 #include "screen/ausgabe.h"
@@ -41,8 +43,10 @@ bool NamensZeichen(unsigned char c) {
 void Fehler(Spiel& s, const std::string& text) {
     std::fprintf(stderr, "%s\n", Utf8(text).c_str());
     BOX(s, 22, 625, 488, 732, SCHWARZ);
-    TEXT_AUSGEBEN(s, text.substr(0, 36), 15, 50, 660, ROT);
-    if (text.size() > 36) TEXT_AUSGEBEN(s, text.substr(36, 36), 15, 50, 690, ROT);
+    // Whole words, as many lines as the action box holds below the menu.
+    const std::vector<std::string> zeilen = Umbrechen(text, 36);
+    for (size_t i = 0; i < zeilen.size() && i < 3; ++i)
+        TEXT_AUSGEBEN(s, zeilen[i], 15, 50, 630 + 30 * static_cast<int>(i), ROT);
     DoEvents(s);
     Warten(s, 3000);
 }
@@ -166,11 +170,18 @@ void SPIEL_LADEN(Spiel& s) {
 
     s.plattform->leeren();
     const std::string pfad = ordner + "/" + Utf8(s.Dateiliste(s.DateiNummer));
-    std::ifstream ein(pfad, std::ios::binary);
-    std::vector<uint8_t> bytes((std::istreambuf_iterator<char>(ein)), std::istreambuf_iterator<char>());
+    std::vector<uint8_t> bytes, zusatz;
     std::string fehler;
-    if (!ein.good() && !ein.eof()) fehler = T("Der Spielstand kann nicht gelesen werden.");
+    if (!DATEI_LESEN(pfad, bytes)) fehler = T("Der Spielstand kann nicht gelesen werden.");
     if (fehler.empty() && !SPIELSTAND_LESEN(s, bytes, fehler)) { /* fehler is set */ }
+    // Without its companion a game is played by persons only.
+    s.Computer = {};
+    const std::string zusatzPfad = BEGLEIT_PFAD(pfad);
+    std::error_code ec;
+    if (fehler.empty() && fs::exists(zusatzPfad, ec)) {
+        if (!DATEI_LESEN(zusatzPfad, zusatz)) fehler = T("Die Zusatzdatei zum Spielstand kann nicht gelesen werden.");
+        else BEGLEIT_LESEN(s, zusatz, bytes, fehler);
+    }
     if (!fehler.empty()) {
         std::fprintf(stderr, "%s: %s\n", pfad.c_str(), Utf8(fehler).c_str());
         TEXT_AUSGEBEN(s, fehler, 15, 120, 260, ROT);

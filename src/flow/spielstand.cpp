@@ -6,6 +6,8 @@
 #include <fstream>
 #include <memory>
 
+#include "flow/begleitdatei.h"
+#include "flow/dateien.h"
 #include "state/text.h"
 
 namespace {
@@ -146,25 +148,9 @@ std::string DATEN_ORDNER(const Spiel& s) {
 }
 
 bool SPIELSTAND_DATEI_SCHREIBEN(const Spiel& s, const std::string& pfad, std::string& fehler) {
-    const std::vector<uint8_t> b = SPIELSTAND_BYTES(s);
-    const std::string tmp = pfad + ".neu";
-    {
-        std::ofstream aus(tmp, std::ios::binary | std::ios::trunc);
-        aus.write(reinterpret_cast<const char*>(b.data()), static_cast<std::streamsize>(b.size()));
-        aus.flush();
-        if (!aus) {
-            aus.close();
-            std::remove(tmp.c_str());
-            fehler = T("Der Spielstand konnte nicht geschrieben werden (Datenträger voll oder schreibgeschützt?).");
-            return false;
-        }
-    }
-    std::error_code ec;
-    std::filesystem::rename(tmp, pfad, ec);
-    if (ec) {
-        std::remove(tmp.c_str());
-        fehler = "Der Spielstand konnte nicht gespeichert werden: " + ec.message();
-        return false;
-    }
-    return true;
+    // The companion first: should the save be cut off between the two, the
+    // old saved game stays, and the new companion, not being its own, is left aside.
+    std::vector<uint8_t> b = SPIELSTAND_BYTES(s);
+    std::vector<uint8_t> zusatz = BEGLEIT_BYTES(s, b);
+    return DATEIEN_SICHER_SCHREIBEN({{BEGLEIT_PFAD(pfad), std::move(zusatz)}, {pfad, std::move(b)}}, fehler);
 }

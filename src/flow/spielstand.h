@@ -15,6 +15,7 @@ bool SPIELSTAND_LESEN(Spiel& s, const std::vector<uint8_t>& bytes, std::string& 
 // Every index and count of a loaded game within the tables and the game;
 // false with the first value out of range ("Schiffe(12).Planet = 9999").
 bool SPIELSTAND_PRUEFEN(const Spiel& s, std::string& wo);
-// Writes through a temporary file, so a full disk never spoils an old save.
+// Writes the saved game and its companion file through temporary files, so
+// a full disk never spoils an old save.
 bool SPIELSTAND_DATEI_SCHREIBEN(const Spiel& s, const std::string& pfad, std::string& fehler);
 std::string DATEN_ORDNER(const Spiel& s);

@@ -21,7 +21,7 @@ struct Ereignis {
 namespace Taste {
 constexpr int Backspace = 8, Tab = 9, Enter = 13, Esc = 27, Leer = 32;
 constexpr int BildAuf = 33, BildAb = 34, Links = 37, Hoch = 38, Rechts = 39, Runter = 40;
-constexpr int F1 = 112, F3 = 114, F4 = 115, F5 = 116, Punkt = 190;
+constexpr int F1 = 112, F2 = 113, F3 = 114, F4 = 115, F5 = 116, Punkt = 190;
 }  // namespace Taste
 
 enum class BoxArt { Info, Warnung, Fehler, Frage };
@@ -40,6 +40,8 @@ struct Plattform {
     virtual void box(int x1, int y1, int x2, int y2, Farbe f) = 0;  // filled, both corners inclusive
     virtual void kreis(int cx, int cy, int r, Farbe f, bool gefuellt, int breite) = 0;
     virtual void bild(const std::string& schluessel, int x, int y) = 0;
+    // The size of a picture; false for a key without one.
+    virtual bool bildGroesse(const std::string& schluessel, int& b, int& h) = 0;
     // Everything the screen shows, to be put back exactly after something was
     // laid over it for a while (a help page, a question asked in the window).
     struct Bildstand {

@@ -81,6 +81,7 @@ struct Haken {
     void (*Sichern)(Spiel&) = nullptr;             // the save ordered for the start of a year
     void (*NachDemJahr)(Spiel&) = nullptr;         // a year is done (the computer players watch it)
     void (*ZugBeginnt)(Spiel&) = nullptr;          // a player's turn begins, at its first main menu
+    void (*ZugEndet)(Spiel&) = nullptr;            // a player ends his turn, before the next one or the year
 };
 
 struct Spiel {

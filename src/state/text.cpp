@@ -82,6 +82,32 @@ std::string Trim(const std::string& s) {
     return s.substr(a, b - a + 1);
 }
 
+std::vector<std::string> Umbrechen(const std::string& text, size_t breite) {
+    std::vector<std::string> r;
+    auto umbrechen = [&](std::string z) {
+        while (z.size() > breite && breite > 0) {
+            size_t p = z.rfind(' ', breite);
+            if (p == std::string::npos || p == 0) p = breite;
+            r.push_back(z.substr(0, p));
+            z.erase(0, p);
+            if (!z.empty() && z[0] == ' ') z.erase(0, 1);
+        }
+        r.push_back(z);
+    };
+    std::string zeile;
+    for (char c : text) {
+        if (c == '\r') continue;
+        if (c == '\n') {
+            umbrechen(zeile);
+            zeile.clear();
+        } else {
+            zeile += c;
+        }
+    }
+    umbrechen(zeile);
+    return r;
+}
+
 std::string UCase(const std::string& s) {
     std::string r = s;
     for (char& ch : r) {

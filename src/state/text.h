@@ -4,6 +4,7 @@
 // font take UTF-8 again.
 #include <string>
 #include <string_view>
+#include <vector>
 
 // UTF-8 to Windows-1252; characters the code page cannot hold are dropped.
 std::string T(std::string_view utf8);
@@ -19,4 +20,7 @@ std::string Space(int n);
 std::string Rechtsbuendig(long long n, int breite);  // Space(w - Len(Str(n))) & Str(n)
 std::string Trim(const std::string& s);
 std::string UCase(const std::string& s);
+// Lines of at most breite characters, broken between words (a word longer
+// than a line is cut); line breaks in the text are kept.
+std::vector<std::string> Umbrechen(const std::string& text, size_t breite);
 std::string PlanetenName(const struct Spiel& s, int planet);  // "Sol III"

@@ -17,36 +17,18 @@
 #include "flow/spielstand.h"
 #include "screen/headless/headless_plattform.h"
 #include "screen/sdl/sdl_plattform.h"
+#include "sdl_hilfe.h"
 
 namespace fs = std::filesystem;
 
 namespace {
 
-std::string Ordner(const std::string& name) {
-    const fs::path p = fs::temp_directory_path() / ("quorvant-aufnahme-" + std::to_string(::getpid()) + "-" + name);
-    fs::remove_all(p);
-    fs::create_directories(p);
-    return p.string();
-}
+std::string Ordner(const std::string& name) { return SdlTestOrdner("aufnahme-" + name); }
 
 std::string Lesen(const std::string& pfad) {
     std::stringstream s;
     s << std::ifstream(pfad).rdbuf();
     return s.str();
-}
-
-// An SDL event: a key with the text it types, a click (k 0), the close (k -1).
-void Druecken(SDL_Keycode k, const char* text = nullptr) {
-    SDL_Event ev{};
-    ev.type = k == -1 ? SDL_QUIT : k == 0 ? SDL_MOUSEBUTTONUP : SDL_KEYDOWN;
-    ev.key.keysym.sym = k;
-    if (k == 0) ev.button = SDL_MouseButtonEvent{SDL_MOUSEBUTTONUP, 0, 0, 0, SDL_BUTTON_LEFT, 0, 1, 0, 600, 300};
-    SDL_PushEvent(&ev);
-    if (!text) return;
-    ev = SDL_Event{};
-    ev.type = SDL_TEXTINPUT;
-    std::strncpy(ev.text.text, text, sizeof ev.text.text - 1);
-    SDL_PushEvent(&ev);
 }
 
 // The window with a player who presses the next key whenever the game has

@@ -19,7 +19,7 @@ bool HeadlessPlattform::skriptLaden(const std::string& text, std::string& fehler
     return SkriptLesen(text, skript_, fehler);
 }
 
-bool HeadlessPlattform::skriptAufgebraucht() const { return pos_ >= skript_.size(); }
+bool HeadlessPlattform::skriptAufgebraucht() const { return pos_ >= skript_.size() && warteschlange_.empty(); }
 
 uint32_t HeadlessPlattform::saat() {
     // A seed line right behind the input that led here belongs to this seeding.
@@ -52,30 +52,11 @@ void HeadlessPlattform::spurZeile(const std::string& z) {
 
 // --- drawing -----------------------------------------------------------------
 
-void HeadlessPlattform::verdecken(int x1, int y1, int x2, int y2) {
-    if (x1 > x2) std::swap(x1, x2);
-    if (y1 > y2) std::swap(y1, y2);
-    for (auto& p : posten_) {
-        if (p.istText) {
-            if (p.y < y1 || p.y + p.zellH - 1 > y2) continue;
-            for (size_t i = 0; i < p.verdeckt.size(); ++i) {
-                int cx = p.x + static_cast<int>(i) * p.zellB;
-                if (cx >= x1 && cx + p.zellB - 1 <= x2) p.verdeckt[i] = true;
-            }
-        } else if (p.x >= x1 && p.y >= y1 && p.x + p.zellB - 1 <= x2 && p.y + p.zellH - 1 <= y2) {
-            p.verdeckt.assign(1, true);
-        }
-    }
-    std::erase_if(posten_, [](const Posten& p) {
-        return !p.verdeckt.empty() && std::all_of(p.verdeckt.begin(), p.verdeckt.end(), [](bool b) { return b; });
-    });
-}
-
 void HeadlessPlattform::leeren() {
     nichtGeschlafen();
     spurZeile("clear");
     if (pixel_) leinwand_.leeren();
-    posten_.clear();
+    text_.leeren();
 }
 
 void HeadlessPlattform::titelSetzen(const std::string& t) {
@@ -87,19 +68,9 @@ void HeadlessPlattform::text(const std::string& t, int groesse, int x, int y, Fa
     nichtGeschlafen();
     spurZeile("print " + Zahl(x) + " " + Zahl(y) + " " + Zahl(groesse) + " " + Zahl(f) + " " + Utf8(t));
     if (pixel_) leinwand_.text(t, groesse, x, y, f);
-    if (t.empty()) return;
-    Posten p;
-    p.x = x;
-    p.y = y;
-    p.groesse = groesse;
-    p.farbe = f;
-    p.text = t;
-    p.verdeckt.assign(t.size(), false);
     int b = 0, h = 0;
     leinwand_.textMessen(" ", groesse, b, h);
-    p.zellB = b;
-    p.zellH = h;
-    posten_.push_back(std::move(p));
+    text_.text(t, groesse, x, y, f, b, h);
 }
 
 void HeadlessPlattform::textMessen(const std::string& t, int groesse, int& breite, int& hoehe) {
@@ -122,17 +93,14 @@ void HeadlessPlattform::box(int x1, int y1, int x2, int y2, Farbe f) {
     nichtGeschlafen();
     spurZeile("box " + Zahl(x1) + " " + Zahl(y1) + " " + Zahl(x2) + " " + Zahl(y2) + " " + Zahl(f));
     if (pixel_) leinwand_.box(x1, y1, x2, y2, f);
-    verdecken(x1, y1, x2, y2);
+    text_.verdecken(x1, y1, x2, y2);
 }
 
 void HeadlessPlattform::kreis(int cx, int cy, int r, Farbe f, bool gefuellt, int breite) {
     nichtGeschlafen();
     spurZeile("circle " + Zahl(cx) + " " + Zahl(cy) + " " + Zahl(r) + " " + Zahl(f) + (gefuellt ? " filled" : " outline"));
     if (pixel_) leinwand_.kreis(cx, cy, r, f, gefuellt, breite);
-    if (gefuellt && r > 1) {
-        int k = static_cast<int>(r * 0.7);  // the square inside the disc
-        verdecken(cx - k, cy - k, cx + k, cy + k);
-    }
+    text_.kreis(cx, cy, r, gefuellt);
 }
 
 void HeadlessPlattform::bild(const std::string& schluessel, int x, int y) {
@@ -140,27 +108,18 @@ void HeadlessPlattform::bild(const std::string& schluessel, int x, int y) {
     spurZeile("picture " + Zahl(x) + " " + Zahl(y) + " " + Utf8(schluessel));
     if (pixel_) leinwand_.bild(schluessel, x, y);
     int b = 0, h = 0;
-    if (!leinwand_.bildGroesse(schluessel, b, h)) return;
-    verdecken(x, y, x + b - 1, y + h - 1);
-    Posten p;
-    p.istText = false;
-    p.x = x;
-    p.y = y;
-    p.text = schluessel;
-    p.zellB = b;
-    p.zellH = h;
-    posten_.push_back(std::move(p));
+    if (leinwand_.bildGroesse(schluessel, b, h)) text_.bild(schluessel, x, y, b, h);
 }
 
 struct HeadlessPlattform::Stand : Plattform::Bildstand {
     std::vector<uint32_t> pixel;
-    std::vector<Posten> posten;
+    Bildschirmtext text;
 };
 
 std::shared_ptr<Plattform::Bildstand> HeadlessPlattform::bildSichern() {
     auto st = std::make_shared<Stand>();
     if (pixel_) st->pixel = leinwand_.kopie();
-    st->posten = posten_;
+    st->text = text_;
     return st;
 }
 
@@ -170,35 +129,9 @@ void HeadlessPlattform::bildZurueck(const std::shared_ptr<Bildstand>& stand) {
     nichtGeschlafen();
     spurZeile("restore");
     if (pixel_) leinwand_.zurueckholen(st->pixel);
-    posten_ = st->posten;
+    text_ = st->text;
 }
 
-std::string HeadlessPlattform::textBei(int x, int y) const {
-    for (auto it = posten_.rbegin(); it != posten_.rend(); ++it) {
-        if (!it->istText || it->x != x || it->y != y) continue;
-        std::string t = it->text;
-        for (size_t i = 0; i < t.size(); ++i)
-            if (it->verdeckt[i]) t[i] = ' ';
-        return t;
-    }
-    return "";
-}
-
-std::string HeadlessPlattform::bildschirm() const {
-    std::string r;
-    for (const auto& p : posten_) {
-        if (!p.istText) {
-            r += "picture\t" + Zahl(p.x) + "\t" + Zahl(p.y) + "\t" + Utf8(p.text) + "\n";
-            continue;
-        }
-        std::string t = p.text;
-        for (size_t i = 0; i < t.size(); ++i)
-            if (p.verdeckt[i]) t[i] = ' ';
-        if (t.find_first_not_of(' ') == std::string::npos) continue;  // blanks show nothing
-        r += "text\t" + Zahl(p.x) + "\t" + Zahl(p.y) + "\t" + Zahl(p.groesse) + "\t" + Zahl(p.farbe) + "\t" + Utf8(t) + "\n";
-    }
-    return r;
-}
 
 // --- time and input ------------------------------------------------------------
 

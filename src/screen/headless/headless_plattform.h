@@ -8,6 +8,7 @@
 #include <string>
 #include <vector>
 
+#include "screen/bildschirmtext.h"
 #include "screen/leinwand.h"
 #include "screen/plattform.h"
 #include "screen/skript.h"
@@ -30,11 +31,12 @@ public:
     Leinwand& leinwand() { return leinwand_; }
 
     // What is visible, one line per item (text / picture), in print order.
-    std::string bildschirm() const;
+    std::string bildschirm() const { return text_.bildschirm(); }
     const std::string& spur() const { return spur_; }
+    // Every input of the script has reached the game.
     bool skriptAufgebraucht() const;
     // The text that begins at (x, y) as the screen file shows it, "" if none.
-    std::string textBei(int x, int y) const;
+    std::string textBei(int x, int y) const { return text_.textBei(x, y); }
     const std::string& titel() const { return titel_; }
     long long virtuelleZeit() const { return uhr_ - START_MS; }
     std::vector<std::string> musikGespielt;  // every piece started, in order
@@ -49,6 +51,9 @@ public:
     void box(int x1, int y1, int x2, int y2, Farbe f) override;
     void kreis(int cx, int cy, int r, Farbe f, bool gefuellt, int breite) override;
     void bild(const std::string& schluessel, int x, int y) override;
+    bool bildGroesse(const std::string& schluessel, int& b, int& h) override {
+        return leinwand_.bildGroesse(schluessel, b, h);
+    }
     std::shared_ptr<Bildstand> bildSichern() override;
     void bildZurueck(const std::shared_ptr<Bildstand>& stand) override;
     void schlafen(int ms) override;
@@ -63,17 +68,8 @@ public:
 
 private:
     static constexpr long long START_MS = 1000000;
-    struct Posten {  // one thing printed or painted, for the screen file
-        bool istText = true;
-        int x = 0, y = 0, groesse = 0;
-        Farbe farbe = 0;
-        std::string text;            // Windows-1252, or the picture key
-        std::vector<bool> verdeckt;  // per character
-        int zellB = 0, zellH = 0;    // character cell, or picture size
-    };
 
     struct Stand;
-    void verdecken(int x1, int y1, int x2, int y2);  // inclusive
     void spurZeile(const std::string& zeile);
     void nichtGeschlafen() { kurzGeschlafen_ = false; }
     // Scripted input into the queue: every timed input that is due, and one
@@ -100,7 +96,7 @@ private:
     std::string spur_;
     std::string letzteSpur_;
     long long spurWiederholung_ = 0;
-    std::vector<Posten> posten_;
+    Bildschirmtext text_;
     std::string titel_;
     std::function<std::string()> nachschub_;
     bool pixel_ = true;

@@ -7,6 +7,7 @@
 #include <memory>
 #include <string>
 
+#include "bots/gegner.h"
 #include "flow/programm.h"
 #include "screen/sdl/sdl_plattform.h"
 #include "state/spiel.h"
@@ -63,7 +64,9 @@ int main(int, char**) {
                          bilder, spiel->ProgrammVerzeichnis.c_str());
         if (const std::string aufnahmen = DatenOrdner("Aufnahmen"); !aufnahmen.empty())
             plattform->aufnahme().starten(aufnahmen, plattform->uhrMs());
-        const int status = PROGRAMM_AUSFUEHREN(*spiel, *plattform);
+        // Houses marked for the computer are played through the same dialogs.
+        Gegner gegner(*plattform);
+        const int status = gegner.spielen(*spiel);
         spiel->plattform = nullptr;
         return status;
     } catch (const std::exception& e) {

@@ -102,33 +102,6 @@ std::vector<unsigned int> Codepunkte(const char* u) {
     return r;
 }
 
-// Lines of a box text: split at line breaks, long lines wrapped at blanks.
-std::vector<std::string> BoxZeilen(const std::string& text, size_t breite) {
-    std::vector<std::string> r;
-    std::string zeile;
-    auto umbrechen = [&](std::string z) {
-        while (z.size() > breite) {
-            size_t p = z.rfind(' ', breite);
-            if (p == std::string::npos || p == 0) p = breite;
-            r.push_back(z.substr(0, p));
-            z.erase(0, p);
-            if (!z.empty() && z[0] == ' ') z.erase(0, 1);
-        }
-        r.push_back(z);
-    };
-    for (char c : text) {
-        if (c == '\r') continue;
-        if (c == '\n') {
-            umbrechen(zeile);
-            zeile.clear();
-        } else {
-            zeile += c;
-        }
-    }
-    umbrechen(zeile);
-    return r;
-}
-
 }  // namespace
 
 SdlPlattform::SdlPlattform() = default;
@@ -256,7 +229,7 @@ int SdlPlattform::sdlBox(const std::string& titel, const std::string& text, BoxA
 bool SdlPlattform::gemalteBox(const std::string& titel, const std::string& text, bool istFrage) {
     if (!fenster_) return !istFrage;  // no window: nobody could answer
     const std::shared_ptr<Bildstand> vorher = bildSichern();
-    std::vector<std::string> zeilen = BoxZeilen(text, 70);
+    std::vector<std::string> zeilen = Umbrechen(text, 70);
     size_t laengste = std::max<size_t>(titel.size(), 20);
     for (const auto& z : zeilen) laengste = std::max(laengste, z.size());
     int zb = 12, zh = 23;

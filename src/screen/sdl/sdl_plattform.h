@@ -44,6 +44,9 @@ public:
     void box(int x1, int y1, int x2, int y2, Farbe f) override;
     void kreis(int cx, int cy, int r, Farbe f, bool gefuellt, int breite) override;
     void bild(const std::string& schluessel, int x, int y) override;
+    bool bildGroesse(const std::string& schluessel, int& b, int& h) override {
+        return leinwand_.bildGroesse(schluessel, b, h);
+    }
     std::shared_ptr<Bildstand> bildSichern() override;
     void bildZurueck(const std::shared_ptr<Bildstand>& stand) override;
     void schlafen(int ms) override;
