@@ -218,7 +218,11 @@ int BOTS_SPIELSTAND_PRUEFEN(const std::string& pfad, std::string& fehler) {
 int COMPUTERSPIEL(const BotAuftrag& a, const std::string& daten, HeadlessPlattform& p, Spiel& s) {
     // Saves go to a folder of the run's own, never into the data beside the program;
     // a saved game to play on from is copied there, and the original is left alone.
-    const fs::path ordner = fs::temp_directory_path() / ("quorvant-bots-" + std::to_string(::getpid()));
+    // In memory where the system offers it: a long run writes an autosave every year.
+    std::error_code shm;
+    const fs::path basis = fs::is_directory("/dev/shm", shm) && ::access("/dev/shm", W_OK) == 0 ? fs::path("/dev/shm")
+                                                                                                   : fs::temp_directory_path();
+    const fs::path ordner = basis / ("quorvant-bots-" + std::to_string(::getpid()));
     fs::create_directories(ordner);
     std::error_code kopiert;
     if (!a.laden.empty()) fs::copy_file(a.laden, ordner / "start.qvt", fs::copy_options::overwrite_existing, kopiert);

@@ -2,6 +2,7 @@
 // the screen and the year call back into the game.
 #include "flow/programm.h"
 
+#include "flow/autosicherung.h"
 #include "flow/sichern.h"
 #include "screen/ausgabe.h"
 #include "year/meldung.h"
@@ -24,6 +25,7 @@ void HAKEN_SETZEN(Spiel& s) {
     s.haken.MeldungenZeigen = MELDUNG;
     s.haken.Beenden = PROGRAMM_BEENDEN;
     s.haken.Sichern = SPIEL_SICHERN;
+    s.haken.Autosichern = AUTOSICHERUNG;
 }
 
 void PROGRAMM_BEENDEN(Spiel& s, int status) {

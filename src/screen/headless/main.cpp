@@ -2,6 +2,8 @@
 // by a script, writing what a test wants to see.
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
+#include <unistd.h>
 #include <fstream>
 #include <iostream>
 #include <memory>
@@ -36,7 +38,7 @@ int main(int argc, char** argv) {
     std::string daten = QUORVANT_DATEN_STANDARD, skript, screen, png, state, trace;
     long long seed = -1, maxMs = 86400000LL;
     BotAuftrag bots;
-    bool mitBots = false, mitJahren = false;
+    bool mitBots = false, mitJahren = false, mitDaten = false;
     for (int i = 1; i < argc; ++i) {
         std::string a = argv[i];
         auto wert = [&]() -> std::string {
@@ -46,7 +48,7 @@ int main(int argc, char** argv) {
             }
             return argv[++i];
         };
-        if (a == "--data") daten = wert();
+        if (a == "--data") { daten = wert(); mitDaten = true; }
         else if (a == "--seed") seed = std::stoll(wert());
         else if (a == "--script") skript = wert();
         else if (a == "--max-ms") maxMs = std::stoll(wert());
@@ -99,6 +101,13 @@ int main(int argc, char** argv) {
 
     auto spiel = std::make_unique<Spiel>();
     spiel->ProgrammVerzeichnis = daten;
+    // Without --data the game reads the source tree's data but keeps its saves
+    // (the autosaves of every year too) in a folder of the run's own.
+    std::filesystem::path eigeneDaten;
+    if (!mitDaten) {
+        eigeneDaten = std::filesystem::temp_directory_path() / ("quorvant-headless-" + std::to_string(::getpid()));
+        spiel->DatenVerzeichnis = (eigeneDaten / "Daten").string();
+    }
     int status = 0;
     if (mitBots && !bots.laden.empty()) {
         // The houses of the saved game: --bots, if given, must say as many.
@@ -133,6 +142,8 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "%s\n", fehler.c_str());
         gut = false;
     }
+    std::error_code weg;
+    if (!eigeneDaten.empty()) std::filesystem::remove_all(eigeneDaten, weg);
     if (!gut) return 1;
     return status;
 }
