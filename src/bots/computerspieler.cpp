@@ -263,6 +263,10 @@ int COMPUTERSPIEL(const BotAuftrag& a, const std::string& daten, HeadlessPlattfo
     std::string aktionen;
     for (const auto& [name, n] : bot.aktionenGezaehlt()) aktionen += (aktionen.empty() ? "" : ", ") + name + " " + std::to_string(n);
     std::fprintf(stderr, "Aktionen: %s\n", aktionen.c_str());
+    if (status == 0 && !a.behalten.empty() && !SPIELSTAND_DATEI_SCHREIBEN(s, a.behalten, fehler)) {
+        std::printf("%s: %s\n", a.behalten.c_str(), Utf8(fehler).c_str());
+        status = 1;
+    }
     if (status == 0) std::printf("%ld Jahre, %d Spieler: in Ordnung\n", a.jahre, a.spieler);
     return status;
 }

@@ -4,6 +4,8 @@
 
 #include "flow/autosicherung.h"
 #include "flow/sichern.h"
+#include "views/hilfe.h"
+#include "views/verlaufsgrafik.h"
 #include "screen/ausgabe.h"
 #include "year/meldung.h"
 
@@ -26,6 +28,8 @@ void HAKEN_SETZEN(Spiel& s) {
     s.haken.Beenden = PROGRAMM_BEENDEN;
     s.haken.Sichern = SPIEL_SICHERN;
     s.haken.Autosichern = AUTOSICHERUNG;
+    s.haken.Hilfe = HILFE;
+    s.haken.VerlaufZeigen = VERLAUF_ZEIGEN;
 }
 
 void PROGRAMM_BEENDEN(Spiel& s, int status) {

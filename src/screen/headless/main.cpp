@@ -23,7 +23,8 @@ void Hilfe() {
                  "Aufruf: quorvant-headless [--data DIR] [--seed N] [--script DATEI|-] [--max-ms MS]\n"
                  "                          [--screen DATEI] [--png DATEI] [--state DATEI] [--trace DATEI]\n"
                  "       quorvant-headless --bots P --years Y [--systems N] [--capital C] [--seed S]\n"
-                 "                          [--check] [--report DATEI] [--state DATEI] [--load SPIELSTAND]\n");
+                 "                          [--check] [--report DATEI] [--state DATEI] [--load SPIELSTAND]\n"
+                 "                          [--keep SPIELSTAND]\n");
 }
 
 bool Schreiben(const std::string& pfad, const std::string& inhalt) {
@@ -63,6 +64,7 @@ int main(int argc, char** argv) {
         else if (a == "--check") bots.pruefen = true;
         else if (a == "--report") bots.bericht = wert();
         else if (a == "--load") bots.laden = wert();
+        else if (a == "--keep") bots.behalten = wert();
         else if (a == "--help" || a == "-h") { Hilfe(); return 0; }
         else {
             std::fprintf(stderr, "Unbekannte Option: %s\n", a.c_str());
