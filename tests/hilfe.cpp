@@ -26,6 +26,7 @@ TestSpiel::TestSpiel(const std::string& skript) {
     s->plattform = p.get();
     HAKEN_SETZEN(*s);
     s->ProgrammVerzeichnis = QUORVANT_DATEN_STANDARD;
+    s->DatenVerzeichnis = TempOrdner("spiel-daten");  // the year's autosave goes here, not into the source tree
     s->AnzahlSpieler = 1;
     VORBELEGUNG_VARIABLEN(*s);
     s->SpielerName(1) = "Anna";
@@ -67,7 +68,11 @@ std::string TempOrdner(const std::string& name) {
 
 std::string DatenKopie(const std::string& name) {
     const std::string ziel = TempOrdner(name);
-    fs::copy(QUORVANT_DATEN_STANDARD, ziel, fs::copy_options::recursive | fs::copy_options::overwrite_existing);
+    // The program's files, without saved games a game of the source tree may have left.
+    for (const auto& e : fs::directory_iterator(QUORVANT_DATEN_STANDARD))
+        if (e.path().filename() != "Daten")
+            fs::copy(e.path(), ziel + "/" + e.path().filename().string(),
+                     fs::copy_options::recursive | fs::copy_options::overwrite_existing);
     return ziel;
 }
 

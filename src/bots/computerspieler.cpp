@@ -218,7 +218,11 @@ int BOTS_SPIELSTAND_PRUEFEN(const std::string& pfad, std::string& fehler) {
 int COMPUTERSPIEL(const BotAuftrag& a, const std::string& daten, HeadlessPlattform& p, Spiel& s) {
     // Saves go to a folder of the run's own, never into the data beside the program;
     // a saved game to play on from is copied there, and the original is left alone.
-    const fs::path ordner = fs::temp_directory_path() / ("quorvant-bots-" + std::to_string(::getpid()));
+    // In memory where the system offers it: a long run writes an autosave every year.
+    std::error_code shm;
+    const fs::path basis = fs::is_directory("/dev/shm", shm) && ::access("/dev/shm", W_OK) == 0 ? fs::path("/dev/shm")
+                                                                                                   : fs::temp_directory_path();
+    const fs::path ordner = basis / ("quorvant-bots-" + std::to_string(::getpid()));
     fs::create_directories(ordner);
     std::error_code kopiert;
     if (!a.laden.empty()) fs::copy_file(a.laden, ordner / "start.qvt", fs::copy_options::overwrite_existing, kopiert);
@@ -259,6 +263,10 @@ int COMPUTERSPIEL(const BotAuftrag& a, const std::string& daten, HeadlessPlattfo
     std::string aktionen;
     for (const auto& [name, n] : bot.aktionenGezaehlt()) aktionen += (aktionen.empty() ? "" : ", ") + name + " " + std::to_string(n);
     std::fprintf(stderr, "Aktionen: %s\n", aktionen.c_str());
+    if (status == 0 && !a.behalten.empty() && !SPIELSTAND_DATEI_SCHREIBEN(s, a.behalten, fehler)) {
+        std::printf("%s: %s\n", a.behalten.c_str(), Utf8(fehler).c_str());
+        status = 1;
+    }
     if (status == 0) std::printf("%ld Jahre, %d Spieler: in Ordnung\n", a.jahre, a.spieler);
     return status;
 }

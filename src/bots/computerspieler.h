@@ -23,6 +23,7 @@ struct BotAuftrag {
     bool pruefen = false;  // the invariants after every year
     std::string bericht;   // CSV file, one row a year; "" none
     std::string laden;     // a saved game the houses play on from; "" a new game
+    std::string behalten;  // where the game is saved (with its companion) when the run ends; "" nowhere
     // Playing beside persons in the window: the houses never order a save or
     // sit out years (that would be the persons' business), and a house that
     // cannot get on in a dialog ends its turn instead of the run.

@@ -101,19 +101,14 @@ std::vector<std::string> ZUG_BERICHT(const Spiel& s, int spieler, const HausStan
 
 void ZUEGE_ZEIGEN(Spiel& s, const std::vector<std::string>& zeilen) {
     if (zeilen.empty()) return;
-    const auto vorher = s.plattform->bildSichern();
+    Ueberlagerung ueber(s);
     const int seiten = (static_cast<int>(zeilen.size()) + ZEILEN_JE_SEITE - 1) / ZEILEN_JE_SEITE;
     // As high as the longest page needs, and no higher.
     const int zeilenHoch = std::min<int>(ZEILEN_JE_SEITE, static_cast<int>(zeilen.size()));
     const int BOX_Y2 = BOX_Y1 + 45 + 24 * zeilenHoch + 50;
     int seite = 0;
     for (;;) {
-        BOX(s, BOX_X1, BOX_Y1, BOX_X2, BOX_Y2, SCHWARZ);
-        const int breite = s.Linienbreite;
-        s.Linienbreite = 2;
-        RAHMEN(s, BOX_X1, BOX_Y1, BOX_X2, BOX_Y2, CYAN);
-        s.Linienbreite = breite;
-        TEXT_AUSGEBEN(s, T("Die Züge der Computerspieler"), 15, BOX_X1 + 20, BOX_Y1 + 10, GELB);
+        UEBERLAGERUNG_RAHMEN(s, BOX_X1, BOX_Y1, BOX_X2, BOX_Y2, T("Die Züge der Computerspieler"), CYAN);
         for (int i = 0; i < ZEILEN_JE_SEITE; ++i) {
             const size_t z = static_cast<size_t>(seite * ZEILEN_JE_SEITE + i);
             if (z >= zeilen.size()) break;
@@ -125,11 +120,9 @@ void ZUEGE_ZEIGEN(Spiel& s, const std::vector<std::string>& zeilen) {
             fuss = "Seite " + std::to_string(seite + 1) + "/" + std::to_string(seiten) +
                    T(" - Bild auf/ab blättert, jede andere Taste schließt");
         TEXT_AUSGEBEN(s, fuss, 15, BOX_X1 + 20, BOX_Y2 - 30, GELB);
-        const int taste = TASTE_ABWARTEN(s);
+        const int taste = ueber.taste();
         if (seiten > 1 && (taste == Taste::BildAb || taste == Taste::Runter)) seite = (seite + 1) % seiten;
         else if (seiten > 1 && (taste == Taste::BildAuf || taste == Taste::Hoch)) seite = (seite + seiten - 1) % seiten;
         else break;
     }
-    s.plattform->bildZurueck(vorher);
-    s.TastenZeichen.clear();
 }

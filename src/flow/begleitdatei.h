@@ -4,6 +4,7 @@
 // stay exactly as they always were. It holds sections by name, so that an
 // older game reads a newer file and skips what it does not know:
 //   ROLL  who plays each house (the computer or a person)
+//   VERL  the history: how each house stood at the end of every year
 // A checksum over the whole file finds damage; a second one ties the file
 // to the saved game it was written with.
 #include <cstdint>

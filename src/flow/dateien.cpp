@@ -11,10 +11,7 @@
 
 #include "state/text.h"
 
-namespace {
-
-// Writes the bytes and forces them onto the disk.
-bool Schreiben(const std::string& pfad, const std::vector<uint8_t>& bytes) {
+bool DATEI_SCHREIBEN(const std::string& pfad, const std::vector<uint8_t>& bytes, bool festschreiben) {
     const int fd = ::open(pfad.c_str(), O_WRONLY | O_CREAT | O_TRUNC | O_CLOEXEC, 0644);
     if (fd < 0) return false;
     size_t geschrieben = 0;
@@ -27,9 +24,11 @@ bool Schreiben(const std::string& pfad, const std::vector<uint8_t>& bytes) {
         }
         geschrieben += static_cast<size_t>(n);
     }
-    const bool gut = ::fsync(fd) == 0;
+    const bool gut = !festschreiben || ::fsync(fd) == 0;
     return ::close(fd) == 0 && gut;
 }
+
+namespace {
 
 // The folder's entry of a renamed file reaches the disk only with the folder.
 void OrdnerFestschreiben(const std::string& pfad) {
@@ -49,7 +48,7 @@ bool DATEIEN_SICHER_SCHREIBEN(const std::vector<DateiInhalt>& dateien, std::stri
     };
     for (const auto& d : dateien) {
         neu.push_back(d.pfad + ".neu");
-        if (!Schreiben(neu.back(), d.bytes)) {
+        if (!DATEI_SCHREIBEN(neu.back(), d.bytes, true)) {
             aufraeumen();
             fehler = T("Der Spielstand konnte nicht geschrieben werden (Datenträger voll oder schreibgeschützt?).");
             return false;

@@ -17,5 +17,8 @@ struct DateiInhalt {
 // another, the last one last.
 bool DATEIEN_SICHER_SCHREIBEN(const std::vector<DateiInhalt>& dateien, std::string& fehler);
 
+// One file at its path, forced onto the disk when festschreiben is set.
+bool DATEI_SCHREIBEN(const std::string& pfad, const std::vector<uint8_t>& bytes, bool festschreiben);
+
 // The whole file, or false when it cannot be read.
 bool DATEI_LESEN(const std::string& pfad, std::vector<uint8_t>& bytes);

@@ -149,6 +149,7 @@ void NeuesSpiel(Spiel& s) {
     VORBELEGUNG_VARIABLEN(s);
 
     s.Computer = {};
+    s.VerlaufJahre.clear();
     TEXT_AUSGEBEN(s, T("F2: diesen Spieler vom Computer spielen lassen (noch einmal F2: selbst spielen)"), 15, 30,
                   600, GELB);
     for (int p = 1; p <= s.AnzahlSpieler; ++p) {

@@ -35,6 +35,8 @@ void HAUPTBILDSCHIRM(Spiel& s, bool mitMeldungUndLager) {
     if (mitMeldungUndLager) LAGERBESTAND(s);
     RAHMEN(s, 20, 560, 490, 740, BLAU);
     AKTIONSZEILE(s);
+    // Below the frames, where nothing else stands: the keys a newcomer needs first.
+    TEXT_AUSGEBEN(s, "F1 Hilfe   F6 Verlauf", 12, 790, 745, HINWEIS_GRAU);
     DoEvents(s);
 }
 

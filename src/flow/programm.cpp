@@ -2,7 +2,10 @@
 // the screen and the year call back into the game.
 #include "flow/programm.h"
 
+#include "flow/autosicherung.h"
 #include "flow/sichern.h"
+#include "views/hilfe.h"
+#include "views/verlaufsgrafik.h"
 #include "screen/ausgabe.h"
 #include "year/meldung.h"
 
@@ -24,6 +27,9 @@ void HAKEN_SETZEN(Spiel& s) {
     s.haken.MeldungenZeigen = MELDUNG;
     s.haken.Beenden = PROGRAMM_BEENDEN;
     s.haken.Sichern = SPIEL_SICHERN;
+    s.haken.Autosichern = AUTOSICHERUNG;
+    s.haken.Hilfe = HILFE;
+    s.haken.VerlaufZeigen = VERLAUF_ZEIGEN;
 }
 
 void PROGRAMM_BEENDEN(Spiel& s, int status) {

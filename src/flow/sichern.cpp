@@ -174,8 +174,9 @@ void SPIEL_LADEN(Spiel& s) {
     std::string fehler;
     if (!DATEI_LESEN(pfad, bytes)) fehler = T("Der Spielstand kann nicht gelesen werden.");
     if (fehler.empty() && !SPIELSTAND_LESEN(s, bytes, fehler)) { /* fehler is set */ }
-    // Without its companion a game is played by persons only.
+    // Without its companion a game is played by persons only, and its history starts now.
     s.Computer = {};
+    s.VerlaufJahre.clear();
     const std::string zusatzPfad = BEGLEIT_PFAD(pfad);
     std::error_code ec;
     if (fehler.empty() && fs::exists(zusatzPfad, ec)) {

@@ -14,6 +14,7 @@
 namespace {
 
 constexpr Farbe GRAU = 120 + 120 * 256 + 120 * 65536;
+const std::string KARTEN_HINWEIS = "Pfeile Leer Tab . A-Z Enter Esc F1 Klick";
 
 int System(int planet) { return (planet - 1) / 10; }
 
@@ -162,17 +163,41 @@ void ZIEL_WAEHLEN(Spiel& s, int schiff) {
     bool richtung = false;
     KARTEN_CURSOR(s, z, WEISS);
     Beschriftung(s, schiff, z);
+    // The map also answers the mouse; a line below names the keys for a newcomer.
+    const std::string vorher = s.Bildschirm;
+    s.Bildschirm = "ZIEL";
+    TEXT_AUSGEBEN(s, KARTEN_HINWEIS, 12, 50, 716, HINWEIS_GRAU);
+    auto ende = [&](Long eingabe) {
+        TEXT_AUSGEBEN(s, Space(static_cast<int>(KARTEN_HINWEIS.size())), 12, 50, 716, SCHWARZ);
+        s.Bildschirm = vorher;
+        s.MausStern = -1;
+        s.Eingabe = eingabe;
+    };
+    s.MausStern = -1;
     for (;;) {
-        const int c = TASTE_ABWARTEN(s);
-        if (c == Taste::Esc) {
-            s.Eingabe = -1;
-            return;
+        s.TasteDa = 0;
+        while (s.TasteDa == 0 && s.MausStern < 0) {
+            s.plattform->schlafen(5);
+            DoEvents(s);
         }
-        if (c == Taste::Enter) {
-            s.Eingabe = z;
-            return;
+        int neu = z;
+        if (s.MausStern >= 0) {
+            // A click on a star moves the cursor there; a click on the star under it chooses it.
+            neu = static_cast<int>(s.MausStern);
+            s.MausStern = -1;
+            if (neu == z) {
+                ende(z);
+                return;
+            }
+        } else {
+            const int c = s.TastenCode;
+            s.TasteDa = 0;
+            if (c == Taste::Esc || c == Taste::Enter) {
+                ende(c == Taste::Esc ? -1 : z);
+                return;
+            }
+            neu = KARTEN_TASTE(s, z, c, richtung);
         }
-        const int neu = KARTEN_TASTE(s, z, c, richtung);
         if (neu != z) {
             KARTEN_CURSOR(s, z, SCHWARZ);
             z = neu;

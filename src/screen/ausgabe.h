@@ -8,6 +8,8 @@
 
 constexpr Farbe SCHWARZ = 0, ROT = 255, GRUEN = 65280, GELB = 65535, BLAU = 16711680,
                 MAGENTA = 16711935, CYAN = 16776960, WEISS = 16777215;
+// Hints beside the game's own texts (the keys of help, graphs and map), quieter than they.
+constexpr Farbe HINWEIS_GRAU = 0x909090;
 
 // Prints after blanking the text's rectangle in black; runs the queue once.
 void TEXT_AUSGEBEN(Spiel& s, const std::string& text, int groesse, int x, int y, Farbe farbe);

@@ -45,20 +45,25 @@ void Bildschirmtext::kreis(int cx, int cy, int r, bool gefuellt) {
 void Bildschirmtext::verdecken(int x1, int y1, int x2, int y2) {
     if (x1 > x2) std::swap(x1, x2);
     if (y1 > y2) std::swap(y1, y2);
+    bool weg = false;
     for (auto& p : posten_) {
         if (p.istText) {
-            if (p.y < y1 || p.y + p.zellH - 1 > y2) continue;
+            const int rechts = p.x + static_cast<int>(p.verdeckt.size()) * p.zellB - 1;
+            if (p.y < y1 || p.y + p.zellH - 1 > y2 || rechts < x1 || p.x > x2) continue;
             for (size_t i = 0; i < p.verdeckt.size(); ++i) {
-                int cx = p.x + static_cast<int>(i) * p.zellB;
-                if (cx >= x1 && cx + p.zellB - 1 <= x2) p.verdeckt[i] = true;
+                const int cx = p.x + static_cast<int>(i) * p.zellB;
+                if (cx >= x1 && cx + p.zellB - 1 <= x2 && !p.verdeckt[i]) {
+                    p.verdeckt[i] = true;
+                    ++p.anzahlVerdeckt;
+                }
             }
         } else if (p.x >= x1 && p.y >= y1 && p.x + p.zellB - 1 <= x2 && p.y + p.zellH - 1 <= y2) {
             p.verdeckt.assign(1, true);
+            p.anzahlVerdeckt = 1;
         }
+        weg |= !p.verdeckt.empty() && p.anzahlVerdeckt == p.verdeckt.size();
     }
-    std::erase_if(posten_, [](const Posten& p) {
-        return !p.verdeckt.empty() && std::all_of(p.verdeckt.begin(), p.verdeckt.end(), [](bool b) { return b; });
-    });
+    if (weg) std::erase_if(posten_, [](const Posten& p) { return !p.verdeckt.empty() && p.anzahlVerdeckt == p.verdeckt.size(); });
 }
 
 std::string Bildschirmtext::textBei(int x, int y) const {

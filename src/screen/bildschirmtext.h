@@ -32,6 +32,7 @@ private:
         Farbe farbe = 0;
         std::string text;            // Windows-1252, or the picture key
         std::vector<bool> verdeckt;  // per character
+        size_t anzahlVerdeckt = 0;
         int zellB = 0, zellH = 0;    // character cell, or picture size
     };
     std::vector<Posten> posten_;

@@ -1,5 +1,7 @@
 #include "screen/dialog.h"
 
+#include <exception>
+
 #include "screen/ausgabe.h"
 #include "state/text.h"
 
@@ -90,4 +92,50 @@ Gewaehlt SCHIFF_WAEHLEN(Spiel& s, int start, const SchiffWahl& w) {
             default: break;
         }
     }
+}
+
+Ueberlagerung::Ueberlagerung(Spiel& s)
+    : s_(s),
+      bild_(s.plattform->bildSichern()),
+      tasteDa_(s.TasteDa),
+      tastenCode_(s.TastenCode),
+      mausTreffer_(s.MausTreffer),
+      tastenZeichen_(s.TastenZeichen),
+      bildschirm_(s.Bildschirm),
+      mausSchiff_(s.MausSchiff),
+      mausPlanet_(s.MausPlanet),
+      mausStern_(s.MausStern),
+      linienbreite_(s.Linienbreite) {
+    s.Ueberlagert = true;
+    s.Bildschirm = "UEBERLAGERUNG";  // clicks reach nothing underneath
+}
+
+Ueberlagerung::~Ueberlagerung() {
+    s_.Ueberlagert = false;
+    // When the program ends while it stands, it stays as the last picture.
+    if (std::uncaught_exceptions() > 0) return;
+    s_.plattform->bildZurueck(bild_);
+    s_.TasteDa = tasteDa_;
+    s_.TastenCode = tastenCode_;
+    s_.MausTreffer = mausTreffer_;
+    s_.TastenZeichen = tastenZeichen_;
+    s_.Bildschirm = bildschirm_;
+    s_.MausSchiff = mausSchiff_;
+    s_.MausPlanet = mausPlanet_;
+    s_.MausStern = mausStern_;
+    s_.Linienbreite = linienbreite_;
+    s_.Ueberlagert = false;
+    // The clock of a timed turn went on underneath; it shows its time again.
+    if (s_.Zeitlimit == -1 && s_.ImZug) TEXT_AUSGEBEN(s_, Rechtsbuendig(s_.ZeitRest, 4), 15, 370, 50, GELB);
+}
+
+int Ueberlagerung::taste() { return TASTE_ABWARTEN(s_); }
+
+void UEBERLAGERUNG_RAHMEN(Spiel& s, int x1, int y1, int x2, int y2, const std::string& titel, Farbe farbe) {
+    BOX(s, x1, y1, x2, y2, SCHWARZ);
+    const int breite = s.Linienbreite;
+    s.Linienbreite = 2;
+    RAHMEN(s, x1, y1, x2, y2, farbe);
+    s.Linienbreite = breite;
+    TEXT_AUSGEBEN(s, titel, 15, x1 + 20, y1 + 10, GELB);
 }

@@ -4,7 +4,10 @@
 // statistics (EINSTATISTIK) and the emptying of a slot (SCHIFF_SLOT_LEEREN)
 // are plain table work and live with the codes in state/codes.h.
 #include <functional>
+#include <memory>
 #include <string>
+
+#include "screen/plattform.h"
 
 #include "state/codes.h"
 #include "state/spiel.h"
@@ -46,3 +49,28 @@ struct Gewaehlt {
 // Up and Down step through the ships that pass, Blank asks for a number,
 // Enter takes the ship shown. Starts on `start`, which the caller has shown.
 Gewaehlt SCHIFF_WAEHLEN(Spiel& s, int start, const SchiffWahl& w);
+
+// Something laid over the screen for a while, wherever the game is (a help
+// page, the graphs, the computer houses' turns): while it stands, keys go to
+// it alone; when it ends, the picture and the notes of the prompt underneath
+// are exactly as before, so the prompt goes on as if nothing had happened.
+class Ueberlagerung {
+public:
+    explicit Ueberlagerung(Spiel& s);
+    ~Ueberlagerung();
+    Ueberlagerung(const Ueberlagerung&) = delete;
+    Ueberlagerung& operator=(const Ueberlagerung&) = delete;
+    // The next key pressed while the overlay stands.
+    int taste();
+
+private:
+    Spiel& s_;
+    std::shared_ptr<Plattform::Bildstand> bild_;
+    Integer tasteDa_, tastenCode_, mausTreffer_;
+    std::string tastenZeichen_, bildschirm_;
+    Long mausSchiff_, mausPlanet_, mausStern_;
+    int linienbreite_;
+};
+
+// A page of an overlay: a frame with its title, as the game's boxes look.
+void UEBERLAGERUNG_RAHMEN(Spiel& s, int x1, int y1, int x2, int y2, const std::string& titel, Farbe farbe);

@@ -21,6 +21,16 @@ bool KarteDa(const Spiel& s) { return s.Dokument(11).Ware != 0; }
 // --- events ----------------------------------------------------------------------
 
 void Form_KeyDown(Spiel& s, int code) {
+    // The help and the graphs lie over whatever stands on the screen; inside
+    // them these keys do nothing more.
+    if (code == Taste::F1) {
+        if (s.haken.Hilfe && !s.Ueberlagert) s.haken.Hilfe(s);
+        return;
+    }
+    if (code == Taste::F6 && KarteDa(s)) {
+        if (s.haken.VerlaufZeigen && !s.Ueberlagert) s.haken.VerlaufZeigen(s);
+        return;
+    }
     if (code == Taste::F5) {
         if (s.SoundAn == -1) {
             s.SoundAn = 0;
@@ -110,7 +120,7 @@ void Form_MouseUp(Spiel& s, int /*knopf*/, int x, int y) {
         }
     } else if (s.Bildschirm == "HAUPT") {
         klickFelder();
-    } else if (s.Bildschirm == "STERNLIST") {
+    } else if (s.Bildschirm == "STERNLIST" || s.Bildschirm == "ZIEL") {
         Single u = (static_cast<Single>(x) - 750.0f) / 1.25f;
         Single v = (static_cast<Single>(y) - 490.0f) / 1.25f;
         auto abstand = [&](int n) {
@@ -147,5 +157,6 @@ void Form_QueryUnload(Spiel& s, bool& abbrechen) {
 void tmrZeit_Timer(Spiel& s) {
     s.ZeitRest = static_cast<Integer>(s.ZeitRest - 1);
     if (s.ZeitRest <= 0) s.tmrZeitAn = false;
+    if (s.Ueberlagert) return;  // shown again when the page over the screen goes
     TEXT_AUSGEBEN(s, Rechtsbuendig(s.ZeitRest, 4), 15, 370, 50, GELB);
 }

@@ -21,7 +21,7 @@ struct Ereignis {
 namespace Taste {
 constexpr int Backspace = 8, Tab = 9, Enter = 13, Esc = 27, Leer = 32;
 constexpr int BildAuf = 33, BildAb = 34, Links = 37, Hoch = 38, Rechts = 39, Runter = 40;
-constexpr int F1 = 112, F2 = 113, F3 = 114, F4 = 115, F5 = 116, Punkt = 190;
+constexpr int F1 = 112, F2 = 113, F3 = 114, F4 = 115, F5 = 116, F6 = 117, Punkt = 190;
 }  // namespace Taste
 
 enum class BoxArt { Info, Warnung, Fehler, Frage };

@@ -33,6 +33,13 @@ inline const char* TypCode(int nr) {
     return nr >= 1 && nr <= ANZAHL_SCHIFFSTYPEN ? CODES[nr] : "";
 }
 
+// Type number 1..6 of a Typ, 0 for none.
+inline int TypNummer(const std::string& typ) {
+    for (int nr = 1; nr <= ANZAHL_SCHIFFSTYPEN; ++nr)
+        if (typ == TypCode(nr)) return nr;
+    return 0;
+}
+
 // --- Zustand -------------------------------------------------------------------
 inline constexpr Integer ZUSTAND_RUHT = 0;          // landed, or in orbit for a station
 inline constexpr Integer ZUSTAND_FLIEGT = 1;        // Planet is the destination

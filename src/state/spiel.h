@@ -6,6 +6,7 @@
 #include <vector>
 
 #include "state/felder.h"
+#include "state/verlauf.h"
 
 constexpr int MAX_SCHIFFE = 1011;
 constexpr int MAX_PLANETEN = 4010;
@@ -82,6 +83,9 @@ struct Haken {
     void (*NachDemJahr)(Spiel&) = nullptr;         // a year is done (the computer players watch it)
     void (*ZugBeginnt)(Spiel&) = nullptr;          // a player's turn begins, at its first main menu
     void (*ZugEndet)(Spiel&) = nullptr;            // a player ends his turn, before the next one or the year
+    bool (*Autosichern)(Spiel&) = nullptr;         // the autosave at the start of a year; false: not written
+    void (*Hilfe)(Spiel&) = nullptr;               // F1: the help, laid over whatever is on the screen
+    void (*VerlaufZeigen)(Spiel&) = nullptr;       // F6: the graphs of the houses' history
 };
 
 struct Spiel {
@@ -156,6 +160,7 @@ struct Spiel {
     Long StatusFolge = 0;
     Integer SoundAn = -1;
     Integer ProduktionAn = -1;
+    bool Ueberlagert = false;  // a help page or graph lies over the screen
 
     Feld<std::string, 1, MELDUNGEN_MAX> MeldungText;
     Feld<Long, 1, MELDUNGEN_MAX> MeldungFarbe;
@@ -168,6 +173,8 @@ struct Spiel {
     // game itself; it travels in the companion file beside it.
     Feld<Integer, 1, 6> Computer;
     bool ImZug = false;  // a player gives his orders (not the intro, not the year)
+    // How the houses stood at the end of each year played (companion file too).
+    Verlauf VerlaufJahre;
 
     Feld<std::string, 1, 100> Dateiliste;
     Integer DateiNummer = 0;

@@ -8,7 +8,9 @@
 #include "year/jahresende.h"
 #include "year/kampf.h"
 #include "year/meldung.h"
+#include "year/verlauf.h"
 #include "state/codes.h"
+#include "state/text.h"
 
 
 void RUNDE_AUSFUEHREN(Spiel& s) {
@@ -18,6 +20,8 @@ void RUNDE_AUSFUEHREN(Spiel& s) {
         if (s.haken.Sichern) s.haken.Sichern(s);
         s.SichernAmRundenende = 0;
     }
+    // The state before the year, as an ordered save holds it, in case of a crash.
+    const bool autoGesichert = !s.haken.Autosichern || s.haken.Autosichern(s);
     s.SoundEreignis = 0;
     s.Jahr += 1;
     TEXT_AUSGEBEN(s, "RUNDE   " + std::to_string(s.Jahr), 15, 30, 50, GELB);
@@ -28,6 +32,8 @@ void RUNDE_AUSFUEHREN(Spiel& s) {
     s.MeldungAnzahl = 0;
     s.MeldungenAusgelassen = 0;
     s.MeldungSeite = 1;
+    if (!autoGesichert)
+        MELDUNG_NEU(s, "Automatische Sicherung fehlgeschlagen!", ROT);
 
     JAHRESENDE(s);
     MARKT_FORTSCHREIBEN(s);
@@ -59,6 +65,7 @@ void RUNDE_AUSFUEHREN(Spiel& s) {
         MARKT_ANZEIGEN(s);
         JAHRES_KLANG(s);
     }
+    VERLAUF_FORTSCHREIBEN(s);
     if (s.haken.NachDemJahr) s.haken.NachDemJahr(s);
 }
 

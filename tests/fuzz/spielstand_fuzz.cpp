@@ -42,6 +42,7 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t* daten, size_t groesse) {
     s->ProgrammVerzeichnis = QUORVANT_DATEN_STANDARD;
     s->DatenVerzeichnis = "/nonexistent-quorvant-fuzz";  // nothing may be written
     HAKEN_SETZEN(*s);
+    s->haken.Autosichern = nullptr;  // the year writes no files here
     Randomize(*s, p->saat());
     VORBELEGUNG_VARIABLEN(*s);
 

@@ -2,6 +2,8 @@
 // by a script, writing what a test wants to see.
 #include <cstdio>
 #include <cstring>
+#include <filesystem>
+#include <unistd.h>
 #include <fstream>
 #include <iostream>
 #include <memory>
@@ -21,7 +23,8 @@ void Hilfe() {
                  "Aufruf: quorvant-headless [--data DIR] [--seed N] [--script DATEI|-] [--max-ms MS]\n"
                  "                          [--screen DATEI] [--png DATEI] [--state DATEI] [--trace DATEI]\n"
                  "       quorvant-headless --bots P --years Y [--systems N] [--capital C] [--seed S]\n"
-                 "                          [--check] [--report DATEI] [--state DATEI] [--load SPIELSTAND]\n");
+                 "                          [--check] [--report DATEI] [--state DATEI] [--load SPIELSTAND]\n"
+                 "                          [--keep SPIELSTAND]\n");
 }
 
 bool Schreiben(const std::string& pfad, const std::string& inhalt) {
@@ -36,7 +39,7 @@ int main(int argc, char** argv) {
     std::string daten = QUORVANT_DATEN_STANDARD, skript, screen, png, state, trace;
     long long seed = -1, maxMs = 86400000LL;
     BotAuftrag bots;
-    bool mitBots = false, mitJahren = false;
+    bool mitBots = false, mitJahren = false, mitDaten = false;
     for (int i = 1; i < argc; ++i) {
         std::string a = argv[i];
         auto wert = [&]() -> std::string {
@@ -46,7 +49,7 @@ int main(int argc, char** argv) {
             }
             return argv[++i];
         };
-        if (a == "--data") daten = wert();
+        if (a == "--data") { daten = wert(); mitDaten = true; }
         else if (a == "--seed") seed = std::stoll(wert());
         else if (a == "--script") skript = wert();
         else if (a == "--max-ms") maxMs = std::stoll(wert());
@@ -61,6 +64,7 @@ int main(int argc, char** argv) {
         else if (a == "--check") bots.pruefen = true;
         else if (a == "--report") bots.bericht = wert();
         else if (a == "--load") bots.laden = wert();
+        else if (a == "--keep") bots.behalten = wert();
         else if (a == "--help" || a == "-h") { Hilfe(); return 0; }
         else {
             std::fprintf(stderr, "Unbekannte Option: %s\n", a.c_str());
@@ -99,6 +103,13 @@ int main(int argc, char** argv) {
 
     auto spiel = std::make_unique<Spiel>();
     spiel->ProgrammVerzeichnis = daten;
+    // Without --data the game reads the source tree's data but keeps its saves
+    // (the autosaves of every year too) in a folder of the run's own.
+    std::filesystem::path eigeneDaten;
+    if (!mitDaten) {
+        eigeneDaten = std::filesystem::temp_directory_path() / ("quorvant-headless-" + std::to_string(::getpid()));
+        spiel->DatenVerzeichnis = (eigeneDaten / "Daten").string();
+    }
     int status = 0;
     if (mitBots && !bots.laden.empty()) {
         // The houses of the saved game: --bots, if given, must say as many.
@@ -133,6 +144,8 @@ int main(int argc, char** argv) {
         std::fprintf(stderr, "%s\n", fehler.c_str());
         gut = false;
     }
+    std::error_code weg;
+    if (!eigeneDaten.empty()) std::filesystem::remove_all(eigeneDaten, weg);
     if (!gut) return 1;
     return status;
 }
