@@ -22,7 +22,6 @@ int RICHTUNGSSUCHE(const Spiel& s, int z, int taste);
 // The next star whose name begins with the letter of the key; z0 when the
 // search comes round to z0's own system (or once round from Sol III).
 int BUCHSTABENSUCHE(const Spiel& s, int z0, int taste);
+// The target of a trip of the ship, walked to on the map by keys or clicks;
+// Eingabe gets the planet, -1 for Esc.
 void ZIEL_WAEHLEN(Spiel& s, int schiff);
-void ORDER_START(Spiel& s, int schiff);
-void ORDER_TELEPORTIEREN(Spiel& s, int schiff);
-void ORDER_NOTRUF(Spiel& s, int schiff);
