@@ -5,7 +5,7 @@
 
 #include "bots/computerspieler.h"
 #include "bots/strategie_intern.h"
-#include "orders/schiffe.h"
+#include "economy/schiffe.h"
 #include "state/codes.h"
 #include "economy/spacedocks.h"
 #include "state/sterne.h"

@@ -8,9 +8,9 @@
 #include "bots/computerspieler.h"
 #include "bots/strategie_intern.h"
 #include "orders/anweisen.h"
-#include "orders/reisen.h"
 #include "state/codes.h"
 #include "state/sterne.h"
+#include "views/sternkarte.h"
 
 using namespace bots;
 

@@ -7,7 +7,7 @@
 #include <string>
 #include <vector>
 
-#include "orders/schiffe.h"
+#include "economy/schiffe.h"
 #include "screen/ausgabe.h"
 #include "screen/dialog.h"
 #include "screen/eingabe.h"

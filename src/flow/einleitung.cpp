@@ -5,7 +5,7 @@
 #include <vector>
 
 #include "flow/programm.h"
-#include "orders/schiffe.h"
+#include "economy/schiffe.h"
 #include "screen/ausgabe.h"
 #include "screen/dialog.h"
 #include "screen/eingabe.h"

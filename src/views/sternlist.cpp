@@ -4,11 +4,11 @@
 
 #include <charconv>
 
-#include "orders/reisen.h"
 #include "screen/ausgabe.h"
 #include "state/codes.h"
 #include "state/sterne.h"
 #include "state/text.h"
+#include "views/sternkarte.h"
 
 namespace {
 

@@ -1,4 +1,4 @@
-#include "orders/schiffe.h"
+#include "economy/schiffe.h"
 
 #include <array>
 #include <cmath>
@@ -6,9 +6,9 @@
 #include "economy/spacedocks.h"
 #include "screen/ausgabe.h"
 #include "screen/dialog.h"
+#include "state/codes.h"
 #include "state/text.h"
 #include "views/schiff_anzeigen.h"
-#include "state/codes.h"
 
 namespace {
 
